@@ -1,6 +1,14 @@
 # What every target of the project has in common. Properties hang on targets, never on directories.
 
-# styleproperties_target(TARGET): the language level, the include root, hidden visibility and the warnings.
+set(STYLEPROPERTIES_SANITIZERS "" CACHE STRING "Sanitizers to build with, comma-separated (address,undefined)")
+option(STYLEPROPERTIES_COVERAGE "Count the lines that run" OFF)
+option(STYLEPROPERTIES_FUZZ "Instrument for libFuzzer and the address sanitizer (Clang)" OFF)
+
+if(STYLEPROPERTIES_FUZZ AND NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    message(FATAL_ERROR "STYLEPROPERTIES_FUZZ needs Clang; the preset fuzz chooses it.")
+endif()
+
+# styleproperties_target(TARGET): the language level, the include root, hidden visibility, warnings, instruments.
 function(styleproperties_target target)
     target_compile_features(${target} PUBLIC cxx_std_20)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
@@ -9,14 +17,38 @@ function(styleproperties_target target)
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON
         POSITION_INDEPENDENT_CODE ON)
+    styleproperties_warnings(${target})
+    styleproperties_instruments(${target})
+endfunction()
+
+function(styleproperties_warnings target)
     if(MSVC)
         target_compile_options(${target} PRIVATE /W4 $<$<BOOL:${STYLEPROPERTIES_WARNINGS_AS_ERRORS}>:/WX>)
-    else()
-        target_compile_options(${target} PRIVATE
-            -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Woverloaded-virtual
-            -Wnon-virtual-dtor -Wcast-qual -Wformat=2 -Wundef
-            $<$<BOOL:${STYLEPROPERTIES_WARNINGS_AS_ERRORS}>:-Werror>
-            # Function-local statics of templates must not pin a module in memory after it was unloaded.
-            $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+        return()
+    endif()
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Woverloaded-virtual
+        -Wnon-virtual-dtor -Wcast-qual -Wformat=2 -Wundef
+        $<$<BOOL:${STYLEPROPERTIES_WARNINGS_AS_ERRORS}>:-Werror>
+        # Function-local statics of templates must not pin a module in memory after it was unloaded.
+        $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+endfunction()
+
+# Instruments are private: whoever links an instrumented library of ours is built by the same presets.
+function(styleproperties_instruments target)
+    if(STYLEPROPERTIES_SANITIZERS)
+        set(flags -fsanitize=${STYLEPROPERTIES_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_compile_options(${target} PRIVATE ${flags})
+        target_link_options(${target} PRIVATE ${flags})
+    endif()
+    if(STYLEPROPERTIES_COVERAGE)
+        # Atomic counters: some tests run the same lines from many threads.
+        target_compile_options(${target} PRIVATE --coverage $<$<CXX_COMPILER_ID:GNU>:-fprofile-update=atomic>)
+        target_link_options(${target} PRIVATE --coverage)
+    endif()
+    if(STYLEPROPERTIES_FUZZ)
+        set(flags -fsanitize=fuzzer-no-link,address -fno-omit-frame-pointer)
+        target_compile_options(${target} PRIVATE ${flags})
+        target_link_options(${target} PRIVATE ${flags})
     endif()
 endfunction()
