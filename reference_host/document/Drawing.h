@@ -1,0 +1,111 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/colour/CLR_COLORSPEC.h"
+#include "host/style_model/PropertyKey.h"
+#include "host/style_model/Style.h"
+#include "host/style_model/StyleSheet.h"
+#include "host/utils/OvxStringT.h"
+#include "reference_host/document/DocumentError.h"
+#include "reference_host/document/DrawingObject.h"
+#include "reference_host/document/DrawingPage.h"
+#include "reference_host/document/PropertyMapping.h"
+
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+struct DrawingData;
+
+/// How a drawing lies on disk.
+enum class DrawingForm
+{
+    Flat,  ///< One XML file.
+    Zipped ///< A zip archive with XML entries.
+};
+
+/// A colour of the document's palette.
+struct PaletteEntry
+{
+    OvxStringT name;
+    CLR_COLORSPEC::Rgb look;
+};
+
+/// An OpenDocument drawing, read into the style model.
+///
+/// Owns its pages, objects, named styles and the default style: whatever it hands out is borrowed from it and
+/// lives as long as it does. One thread, the user interface's.
+class STYLEPROPERTIES_HOST_API Drawing
+{
+public:
+    /// Reads a flat or zipped drawing or drawing template; which it is, its content tells and not its name.
+    ///
+    /// @param warnings   receives one line in UTF-8 for everything that was repaired or passed over: a
+    /// missing parent
+    ///                   that was dropped, a cycle of parents that was cut, a value that cannot be read and
+    ///                   counts as not set. Each names the style.
+    /// @param extensions properties of further categories; each of these categories becomes a substyle of
+    /// every whole
+    ///                   style of the drawing.
+    /// @throws DocumentError for everything that cannot be read; nothing is left behind.
+    [[nodiscard]] static std::unique_ptr<Drawing> Open(const std::filesystem::path& file,
+                                                       std::vector<std::string>& warnings,
+                                                       const std::vector<PropertyMapping>& extensions = {});
+
+    explicit Drawing(std::unique_ptr<DrawingData> data);
+    Drawing(const Drawing&) = delete;
+    Drawing& operator=(const Drawing&) = delete;
+    ~Drawing();
+
+    /// The path as it was given to Open().
+    [[nodiscard]] const std::filesystem::path& GetPath() const noexcept;
+
+    [[nodiscard]] DrawingForm GetForm() const noexcept;
+
+    /// Tells whether the file is a template for drawings.
+    [[nodiscard]] bool IsTemplate() const noexcept;
+
+    /// The pages in order.
+    [[nodiscard]] const std::vector<DrawingPage>& GetPages() const noexcept;
+
+    /// All objects and groups of all pages in document order, a group before its members.
+    [[nodiscard]] std::deque<DrawingObject>& GetObjects() noexcept;
+
+    /// The named styles, by their decoded names ("Mid One", not "Mid_20_One"), in the order of the file.
+    [[nodiscard]] Styles::StyleSheet& GetStyleSheet() noexcept;
+
+    /// The names of all named styles of all categories, in the order of the file.
+    [[nodiscard]] const std::vector<OvxStringT>& GetStyleNames() const noexcept;
+
+    /// What people see for a named style: the display name that the file gives, else the name itself. A name
+    /// that is not in the sheet comes back as it is.
+    [[nodiscard]] OvxStringT GetDisplayName(const OvxStringT& styleName) const;
+
+    /// Tells whether the drawing hides a named style from people.
+    [[nodiscard]] bool IsHidden(const OvxStringT& styleName) const;
+
+    /// The default style: what every effective value falls back to after the parents. It is nobody's parent
+    /// and not in the sheet; empty when the file has none.
+    [[nodiscard]] Styles::Style& GetDefaultStyle() noexcept;
+
+    /// The document's palette in the order of the file.
+    [[nodiscard]] const std::vector<PaletteEntry>& GetPalette() const noexcept;
+
+    /// The look of a palette entry; none when the palette does not hold it.
+    [[nodiscard]] std::optional<CLR_COLORSPEC::Rgb> FindPaletteColour(const OvxStringT& name) const;
+
+    /// The categories that every whole style has a substyle of: fill, outline, paragraph, character, then
+    /// those of the extensions in the order given.
+    [[nodiscard]] const std::vector<Styles::PropertyKey>& GetCategories() const noexcept;
+
+private:
+    std::unique_ptr<DrawingData> data;
+};
+
+} // namespace ReferenceHost

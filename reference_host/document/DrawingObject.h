@@ -1,0 +1,83 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/style_model/Style.h"
+#include "host/utils/OvxStringT.h"
+#include "reference_host/document/TextUnit.h"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+struct DrawingPage;
+class CascadeStyles;
+class ShapeReader;
+
+/// A shape or a group of a drawing.
+///
+/// A shape owns a whole style with all its substyles: its own values are those of its automatic style, its
+/// parent is the named style. A group has no style; it stands for its members.
+class STYLEPROPERTIES_HOST_API DrawingObject
+{
+public:
+    /// Made by the reader. `page` and `group` are borrowed; `group` is null directly on the page. `position`
+    /// counts from 1 within the group or the page.
+    DrawingObject(DrawingPage& page, DrawingObject* group, std::size_t position);
+
+    DrawingObject(const DrawingObject&) = delete;
+    DrawingObject& operator=(const DrawingObject&) = delete;
+    ~DrawingObject();
+
+    /// Page, position on the page, and positions inside groups, each counted from 1 and joined by "/":
+    /// "1/4/2". Objects and groups alone count.
+    [[nodiscard]] OvxStringT GetId() const;
+
+    /// The name that the person gave; empty without one. Names need not be unique.
+    [[nodiscard]] const OvxStringT& GetName() const noexcept { return name; }
+
+    /// "rect", "custom-shape", "group", ...: the local name of the element, and "group" for a group. Points
+    /// to a constant.
+    [[nodiscard]] OvxStringViewT GetKind() const noexcept { return kind; }
+
+    [[nodiscard]] bool IsGroup() const noexcept { return isGroup; }
+
+    [[nodiscard]] DrawingPage& GetPage() const noexcept { return *page; }
+
+    /// The group that holds this object; null directly on the page.
+    [[nodiscard]] DrawingObject* GetGroup() const noexcept { return group; }
+
+    /// The objects and groups directly inside a group, in document order; empty for a shape.
+    [[nodiscard]] const std::vector<DrawingObject*>& GetMembers() const noexcept { return members; }
+
+    /// The whole style, owned by the object and made when it is first asked for; null for a group.
+    [[nodiscard]] Styles::Style* GetStyle();
+
+    /// The paragraphs of the text, in order, also those in lists. Empty for a shape without text, which
+    /// stands for itself, and for a group. The units keep their addresses.
+    [[nodiscard]] std::vector<TextUnit>& GetParagraphs() noexcept { return paragraphs; }
+
+    /// The runs of all paragraphs, in order; an empty paragraph has one. Empty exactly when GetParagraphs()
+    /// is.
+    [[nodiscard]] std::vector<TextUnit>& GetRuns() noexcept { return runs; }
+
+private:
+    friend class ShapeReader;
+
+    DrawingPage* page;
+    DrawingObject* group;
+    std::size_t position;
+    OvxStringT name;
+    OvxStringViewT kind;
+    bool isGroup = false;
+    std::vector<DrawingObject*> members; ///< Owned by the drawing.
+    std::vector<TextUnit> paragraphs;
+    std::vector<TextUnit> runs;
+    CascadeStyles* styles = nullptr;      ///< Makes the style; borrowed from the drawing.
+    std::size_t cascade = 0;              ///< Which styles of the file make up this one.
+    std::unique_ptr<Styles::Style> style; ///< Null until asked for.
+};
+
+} // namespace ReferenceHost

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/style_model/Style.h"
+
+#include <cstddef>
+#include <memory>
+
+namespace ReferenceHost
+{
+
+class DrawingObject;
+class CascadeStyles;
+
+/// A paragraph of a shape's text, or a run: text of one paragraph that stands in one set of spans.
+///
+/// A unit's style is a whole style with all its substyles. What it sets itself are the paragraph and text
+/// properties that the automatic styles of its run, paragraph and shape set, nearest first, named text and
+/// paragraph styles between them included; its parent is the named style of the shape. Fill and outline do
+/// not concern text and stay empty.
+class STYLEPROPERTIES_HOST_API TextUnit
+{
+public:
+    enum class Kind
+    {
+        Paragraph,
+        Run
+    };
+
+    /// Made by the reader. `object` and `styles` are borrowed and outlive the unit; `cascade` names its
+    /// styles there.
+    TextUnit(Kind kind, DrawingObject& object, CascadeStyles& styles, std::size_t cascade);
+
+    [[nodiscard]] Kind GetKind() const noexcept { return kind; }
+
+    /// The shape whose text this is.
+    [[nodiscard]] DrawingObject& GetObject() const noexcept { return *object; }
+
+    /// The unit's whole style, owned by the unit and made when it is first asked for; never null.
+    [[nodiscard]] Styles::Style* GetStyle();
+
+private:
+    DrawingObject* object;
+    CascadeStyles* styles;
+    std::size_t cascade;
+    std::unique_ptr<Styles::Style> style; ///< Null until asked for: most units of a large drawing never are.
+    Kind kind;
+};
+
+} // namespace ReferenceHost
