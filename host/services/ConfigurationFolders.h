@@ -1,0 +1,10 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/utils/OvxStringT.h"
+
+/// The folder of the user's own configuration.
+[[nodiscard]] STYLEPROPERTIES_HOST_API OvxStringT INIGetCustomDir();
+
+/// The folder of the suite below the user's documents.
+[[nodiscard]] STYLEPROPERTIES_HOST_API OvxStringT GetUserDocumentsOrvexSuiteDir();

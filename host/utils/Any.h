@@ -1,0 +1,234 @@
+#pragma once
+
+#include "host/Export.h"
+
+#include <concepts>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <new>
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
+
+class OvxWideString;
+class CLR_COLORSPEC;
+
+namespace Styles
+{
+class PropertyKey;
+}
+
+namespace OvxUtils
+{
+
+/// What an Any must know of the type it holds: one table for each type.
+struct AnyOperations
+{
+    const std::type_info* type;                          ///< The held type.
+    void (*copy)(const void* source, void* destination); ///< Copies one storage into a raw one.
+    void (*move)(void* source,
+                 void* destination) noexcept; ///< Moves one storage into a raw one, ending the source.
+    void (*destroy)(void* storage) noexcept;  ///< Ends the value in a storage.
+    const void* (*get)(const void* storage) noexcept;   ///< The address of the held value.
+    bool (*equal)(const void* left, const void* right); ///< `==` of two held values.
+    bool (*less)(const void* left, const void* right);  ///< `<` of two held values.
+};
+
+/// The table of one type.
+///
+/// The types that styles hold are instantiated in the host library, so that their values stay usable after
+/// the module that stored them was unloaded.
+template <class T>
+const AnyOperations* OperationsOf();
+
+extern template STYLEPROPERTIES_HOST_API const AnyOperations* OperationsOf<int>();
+extern template STYLEPROPERTIES_HOST_API const AnyOperations* OperationsOf<OvxWideString>();
+extern template STYLEPROPERTIES_HOST_API const AnyOperations* OperationsOf<Styles::PropertyKey>();
+extern template STYLEPROPERTIES_HOST_API const AnyOperations* OperationsOf<CLR_COLORSPEC>();
+
+/// Holds nothing, or one value of any copyable type.
+///
+/// Small values lie inside, larger ones on the heap; no caller can tell. Two values are equal when both are
+/// empty, or when they hold the same type and the held values are equal; a type without `==` is equal to no
+/// other holder.
+class Any
+{
+public:
+    Any() noexcept = default;
+
+    template <class T>
+    requires(!std::same_as<std::remove_cvref_t<T>, Any> &&
+             std::copy_constructible<std::remove_cvref_t<T>>) explicit Any(T&& value);
+
+    Any(const Any& other) : operations(other.operations)
+    {
+        if (operations != nullptr)
+            operations->copy(other.storage, storage);
+    }
+
+    Any(Any&& other) noexcept : operations(std::exchange(other.operations, nullptr))
+    {
+        if (operations != nullptr)
+            operations->move(other.storage, storage);
+    }
+
+    Any& operator=(const Any& other)
+    {
+        if (this != &other)
+            *this = Any(other);
+        return *this;
+    }
+
+    Any& operator=(Any&& other) noexcept
+    {
+        if (this == &other)
+            return *this;
+        Reset();
+        operations = std::exchange(other.operations, nullptr);
+        if (operations != nullptr)
+            operations->move(other.storage, storage);
+        return *this;
+    }
+
+    ~Any() { Reset(); }
+
+    [[nodiscard]] bool IsEmpty() const noexcept { return operations == nullptr; }
+
+    /// The type of the held value; `typeid(void)`, the type of nothing, when empty.
+    [[nodiscard]] const std::type_info& GetType() const noexcept
+    {
+        return operations == nullptr ? typeid(void) : *operations->type;
+    }
+
+    /// The held value.
+    ///
+    /// @throws std::bad_cast when empty or when another type is held. No conversions are made.
+    template <class T>
+    [[nodiscard]] const T& Get() const
+    {
+        if (operations == nullptr || *operations->type != typeid(T))
+            throw std::bad_cast();
+        return *static_cast<const T*>(operations->get(storage));
+    }
+
+    /// The held value, or null when empty or when another type is held.
+    template <class T>
+    [[nodiscard]] const T* TryGet() const noexcept
+    {
+        if (operations == nullptr || *operations->type != typeid(T))
+            return nullptr;
+        return static_cast<const T*>(operations->get(storage));
+    }
+
+    friend bool operator==(const Any& left, const Any& right)
+    {
+        if (left.operations == nullptr || right.operations == nullptr)
+            return left.operations == right.operations;
+        return *left.operations->type == *right.operations->type &&
+               left.operations->equal(left.operations->get(left.storage),
+                                      right.operations->get(right.storage));
+    }
+
+    /// Orders by the held values' `<`; an empty one stands before all others, different types by their type.
+    friend bool operator<(const Any& left, const Any& right)
+    {
+        if (left.operations == nullptr || right.operations == nullptr)
+            return left.operations == nullptr && right.operations != nullptr;
+        if (*left.operations->type != *right.operations->type)
+            return left.operations->type->before(*right.operations->type);
+        return left.operations->less(left.operations->get(left.storage),
+                                     right.operations->get(right.storage));
+    }
+
+private:
+    template <class T>
+    friend const AnyOperations* OperationsOf();
+
+    /// Two pointers: a key, a number and a colour lie inside.
+    static constexpr std::size_t kInlineSize = 2 * sizeof(void*);
+
+    template <class T>
+    static constexpr bool kIsInline = sizeof(T) <= kInlineSize &&
+                                      alignof(T) <= alignof(void*) && std::is_nothrow_move_constructible_v<T>;
+
+    void Reset() noexcept
+    {
+        if (operations != nullptr)
+            operations->destroy(storage);
+        operations = nullptr;
+    }
+
+    const AnyOperations* operations = nullptr;
+    alignas(void*) std::byte storage[kInlineSize] = {};
+};
+
+template <class T>
+const AnyOperations* OperationsOf()
+{
+    using Owner = std::unique_ptr<T>;
+    static constexpr bool kInline = Any::kIsInline<T>;
+    using Stored = std::conditional_t<kInline, T, Owner>;
+    static constexpr auto value = [](const void* storage) noexcept -> const T*
+    {
+        const auto* stored = std::launder(static_cast<const Stored*>(storage));
+        if constexpr (kInline)
+            return stored;
+        else
+            return stored->get();
+    };
+    static const AnyOperations table{
+        &typeid(T),
+        [](const void* source, void* destination)
+        {
+            if constexpr (kInline)
+                ::new (destination) T(*value(source));
+            else
+                ::new (destination) Owner(std::make_unique<T>(*value(source)));
+        },
+        [](void* source, void* destination) noexcept
+        {
+            auto* stored = std::launder(static_cast<Stored*>(source));
+            ::new (destination) Stored(std::move(*stored));
+            std::destroy_at(stored);
+        },
+        [](void* storage) noexcept { std::destroy_at(std::launder(static_cast<Stored*>(storage))); },
+        [](const void* storage) noexcept -> const void* { return value(storage); },
+        [](const void* left, const void* right) -> bool
+        {
+            if constexpr (std::equality_comparable<T>)
+                return *static_cast<const T*>(left) == *static_cast<const T*>(right);
+            else
+                return left == right;
+        },
+        [](const void* left, const void* right) -> bool
+        {
+            if constexpr (requires(const T& a, const T& b) {
+                              {
+                                  a < b
+                                  } -> std::convertible_to<bool>;
+                          })
+                return *static_cast<const T*>(left) < *static_cast<const T*>(right);
+            else
+                return std::less<const void*>()(left, right);
+        }};
+    return &table;
+}
+
+template <class T>
+
+requires(!std::same_as<std::remove_cvref_t<T>, Any> &&
+         std::copy_constructible<std::remove_cvref_t<T>>) Any::Any(T&& value)
+{
+    using Held = std::remove_cvref_t<T>;
+    static_assert(!std::is_pointer_v<Held> && !std::is_array_v<Held>,
+                  "An Any holds values: pass a text as OvxStringT, not as a literal or a pointer");
+    if constexpr (kIsInline<Held>)
+        ::new (static_cast<void*>(storage)) Held(std::forward<T>(value));
+    else
+        ::new (static_cast<void*>(storage))
+            std::unique_ptr<Held>(std::make_unique<Held>(std::forward<T>(value)));
+    operations = OperationsOf<Held>();
+}
+
+} // namespace OvxUtils

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/utils/CompareCase.h"
+#include "host/utils/OvxStringViewT.h"
+
+#include <compare>
+#include <cstddef>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+/// The wide text that every name, title and identifier is held in.
+///
+/// A plain value. Equality and the `<` family are ordinal and case-sensitive.
+class STYLEPROPERTIES_HOST_API OvxWideString
+{
+public:
+    OvxWideString() = default;
+
+    OvxWideString(const wchar_t* literal) : text(literal) {}
+
+    OvxWideString(OvxStringViewT view) : text(view) {}
+
+    OvxWideString(std::wstring_view view) : text(view) {}
+
+    OvxWideString(std::wstring source) : text(static_cast<std::wstring&&>(source)) {}
+
+    [[nodiscard]] bool empty() const noexcept { return text.empty(); }
+
+    [[nodiscard]] std::size_t size() const noexcept { return text.size(); }
+
+    [[nodiscard]] const wchar_t* c_str() const noexcept { return text.c_str(); }
+
+    [[nodiscard]] const std::wstring& Wide() const noexcept { return text; }
+
+    operator OvxStringViewT() const noexcept { return OvxStringViewT(text); }
+
+    OvxWideString& operator+=(OvxStringViewT tail);
+
+    /// Replaces every occurrence of `from`, left to right, never looking at what it inserted.
+    ///
+    /// An empty `from` replaces nothing.
+    ///
+    /// @returns the number of replacements.
+    std::size_t Replace(OvxStringViewT from, OvxStringViewT to);
+
+    /// Orders two texts: negative, zero or positive as this text stands before, with or after `other`.
+    [[nodiscard]] int Compare(OvxStringViewT other, CompareCase compareCase = CompareCase::Sensitive) const;
+
+    /// Fills a printf-style pattern that takes one int ("%d").
+    [[nodiscard]] static OvxWideString Format(const wchar_t* pattern, int value);
+
+    /// Fills the inserts "%1" to "%9" of a message pattern with `inserts`, in one pass.
+    ///
+    /// "%%" gives one percent sign. An insert that names no element of `inserts`, and any other character
+    /// after a percent sign, stay as they are. What an insert brings in is not looked at again, so that a
+    /// "%1" inside a name survives. An empty pattern gives an empty text.
+    [[nodiscard]] static OvxWideString FormatMessageInserts(OvxStringViewT pattern,
+                                                            std::initializer_list<OvxWideString> inserts);
+
+    friend bool operator==(const OvxWideString& left, const OvxWideString& right) noexcept
+    {
+        return left.text == right.text;
+    }
+
+    friend bool operator==(const OvxWideString& left, OvxStringViewT right) noexcept
+    {
+        return std::wstring_view(left.text) == std::wstring_view(right);
+    }
+
+    friend bool operator==(const OvxWideString& left, const wchar_t* right) noexcept
+    {
+        return left.text == right;
+    }
+
+    friend std::strong_ordering operator<=>(const OvxWideString& left, const OvxWideString& right) noexcept
+    {
+        return left.text <=> right.text;
+    }
+
+private:
+    std::wstring text;
+};
+
+/// The host's wide text.
+using OvxStringT = OvxWideString;
+
+/// Joins two texts into a new one.
+[[nodiscard]] STYLEPROPERTIES_HOST_API OvxStringT operator+(OvxStringViewT left, OvxStringViewT right);
+
+template <>
+struct std::hash<OvxWideString>
+{
+    std::size_t operator()(const OvxWideString& text) const noexcept
+    {
+        return std::hash<std::wstring>()(text.Wide());
+    }
+};

@@ -1,0 +1,169 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/utils/SafeFunction.h"
+#include "host/utils/SingletonLibrary.h"
+#include "host/utils/ThreadLock.h"
+#include "host/utils/WriteLock.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <typeindex>
+#include <typeinfo>
+
+namespace OvxUtils
+{
+
+/// One instance of `T` for the whole process, however many modules use it.
+///
+/// Each module instantiates this template for itself and keeps only a pointer to the entry that
+/// SingletonLibrary holds; the pointer is withdrawn when the module that made the data is unloaded. All
+/// operations are safe from any thread; the instance itself is not guarded.
+template <class T>
+class STYLEPROPERTIES_MODULE_LOCAL Singleton
+{
+public:
+    /// The instance, made when missing.
+    ///
+    /// @returns a reference that is valid until ReleaseInstance or the unloading of the module that made it.
+    static T& GetInstance();
+
+    /// Tells whether there is an instance. Creates nothing.
+    static bool HasInstance();
+
+    /// Ends the instance, when there is one. `final` also records that it was released for good; the record
+    /// blocks nothing: a later GetInstance makes a fresh instance. Creates nothing.
+    static void ReleaseInstance(bool final);
+
+    static T* CreateInstance() { return new T; }
+
+    static void DeleteInstance(T* instance) { delete instance; }
+
+    /// Arranges, once for each module, that StaticFinalizer runs when the module goes.
+    static void RegisterFinalizer();
+
+    /// Tells the registry that this module is going. Its own address is the module's name there.
+    static void StaticFinalizer() { SingletonLibrary::NotifySingletonModuleUnloaded(&StaticFinalizer); }
+
+private:
+    /// What all modules share.
+    struct SingletonData
+    {
+        std::atomic<T*> instance = nullptr; ///< Owned; null until first needed. Changed under `lock` only.
+        std::atomic<bool> released = false; ///< Set when the instance was released for good.
+        ThreadLock lock;
+    };
+
+    /// The callback by which the registry withdraws the entry; takes itself off the registry when the module
+    /// goes.
+    struct WithdrawCallback
+    {
+        basic_safe_function<void()> function{[] { g_pEntry.exchange(nullptr); }};
+
+        ~WithdrawCallback() { SingletonLibrary::RemoveCallback(Type(), function.GetToken()); }
+    };
+
+    static std::type_index Type() { return typeid(Singleton<T>); }
+
+    static SingletonData* GetSingletonData(bool create);
+    static void CreateData(SingletonEntry& entry, bool create);
+    static void DeleteData(void* data);
+    static void CreateSingletonData(SingletonData& data);
+
+    /// The registry's entry; null before first use and again after it was withdrawn. Atomic exchange only.
+    static inline std::atomic<SingletonEntry*> g_pEntry = nullptr;
+
+    static inline std::atomic<bool> finalizerRegistered = false;
+};
+
+template <class T>
+T& Singleton<T>::GetInstance()
+{
+    SingletonData& data = *GetSingletonData(true);
+    CreateSingletonData(data);
+    return *data.instance.load();
+}
+
+template <class T>
+bool Singleton<T>::HasInstance()
+{
+    const SingletonData* data = GetSingletonData(false);
+    return data != nullptr && data->instance.load() != nullptr;
+}
+
+template <class T>
+void Singleton<T>::ReleaseInstance(bool final)
+{
+    SingletonData* data = GetSingletonData(false);
+    if (data == nullptr)
+        return;
+
+    WriteLock lock(data->lock);
+    DeleteInstance(data->instance.exchange(nullptr));
+    if (final)
+        data->released = true;
+}
+
+template <class T>
+void Singleton<T>::RegisterFinalizer()
+{
+    if (!finalizerRegistered.exchange(true))
+        std::atexit(&StaticFinalizer);
+}
+
+template <class T>
+typename Singleton<T>::SingletonData* Singleton<T>::GetSingletonData(bool create)
+{
+    static const WithdrawCallback withdraw;
+
+    SingletonEntry* entry = g_pEntry.load();
+    if (entry == nullptr)
+    {
+        entry = SingletonLibrary::GetEntryForType(Type(), &CreateData, create, withdraw.function);
+        g_pEntry.exchange(entry);
+    }
+    return entry == nullptr ? nullptr : static_cast<SingletonData*>(entry->data);
+}
+
+template <class T>
+void Singleton<T>::CreateData(SingletonEntry& entry, bool create)
+{
+    if (!create)
+        return;
+
+    if (entry.data == nullptr)
+    {
+        entry.data = new SingletonData;
+        entry.deleter = &DeleteData;
+        entry.finalizer = &StaticFinalizer;
+        // The data must be gone before this module is, whichever module makes the instance.
+        RegisterFinalizer();
+    }
+    CreateSingletonData(*static_cast<SingletonData*>(entry.data));
+}
+
+template <class T>
+void Singleton<T>::DeleteData(void* data)
+{
+    auto* shared = static_cast<SingletonData*>(data);
+    shared->released = true;
+    DeleteInstance(shared->instance.exchange(nullptr));
+    delete shared;
+}
+
+// The test before the lock is deliberate: once the instance stands, nobody waits for the lock again.
+template <class T>
+void Singleton<T>::CreateSingletonData(SingletonData& data)
+{
+    if (data.instance.load() != nullptr)
+        return;
+
+    WriteLock lock(data.lock);
+    if (data.instance.load() != nullptr)
+        return;
+
+    DeleteInstance(data.instance.exchange(CreateInstance()));
+    RegisterFinalizer();
+}
+
+} // namespace OvxUtils

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/utils/ThreadLock.h"
+
+#include <mutex>
+
+namespace OvxUtils
+{
+
+/// Holds a ThreadLock for changing what it guards, until the end of the scope.
+class [[nodiscard]] WriteLock
+{
+public:
+    explicit WriteLock(ThreadLock& lock) : held(lock.mutex) {}
+
+private:
+    std::lock_guard<std::mutex> held;
+};
+
+} // namespace OvxUtils

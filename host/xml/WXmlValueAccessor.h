@@ -1,0 +1,37 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/utils/OvxStringT.h"
+
+#include <memory>
+#include <utility>
+
+/// One value of an element, to be read or written. Keeps the tree of its element alive.
+///
+/// Booleans are written "true" and "false", numbers in decimal. A value that is absent, or does not read as
+/// the type asked for, gives the fallback.
+class STYLEPROPERTIES_HOST_API WXmlValueAccessor
+{
+public:
+    /// Writes a text. The value is left out when it equals a `fallback` that is not empty; with both empty,
+    /// an empty value is written.
+    void SetString(const OvxStringT& value, const OvxStringT& fallback = OvxStringT());
+    void SetBool(bool value);
+    void SetInt(int value);
+
+    [[nodiscard]] OvxStringT GetString(const OvxStringT& fallback = OvxStringT()) const;
+    [[nodiscard]] bool GetBool(bool fallback = false) const;
+    [[nodiscard]] int GetInt(int fallback = 0) const;
+
+private:
+    friend class WXmlNode;
+
+    WXmlValueAccessor(std::shared_ptr<void> owner, void* node, OvxStringT valueAddress)
+        : tree(std::move(owner)), element(node), address(std::move(valueAddress))
+    {
+    }
+
+    std::shared_ptr<void> tree; ///< Keeps alive what `element` points into; the host's own.
+    void* element = nullptr;    ///< Null for a value of an invalid handle.
+    OvxStringT address;         ///< As given: "@name".
+};
