@@ -1,0 +1,432 @@
+#pragma once
+
+#include "datasource/ActivePropertyState.h"
+#include "host/data_binding/PartialDataSource.h"
+#include "host/style_model/IModifyStyleOverrides.h"
+#include "host/style_model/IStyleApplicator.h"
+#include "host/style_model/PropertyKey.h"
+#include "host/style_model/PropertyPath.h"
+#include "host/style_model/Style.h"
+#include "host/style_model/SubStyle.h"
+#include "host/style_model/WNodeHandle.h"
+#include "host/ui_list/WCmnUI_Guid.h"
+#include "host/ui_list/WCmnUI_List.h"
+#include "host/ui_list/WCmnUI_ListItem.h"
+#include "host/utils/Any.h"
+#include "host/utils/OvxStringT.h"
+#include "host/utils/RepeatingCallback.h"
+#include "host/xml/WXmlDoc.h"
+#include "host/xml/WXmlNode.h"
+#include "module/Export.h"
+#include "module/IGetModifyStyles.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <set>
+#include <vector>
+
+class IStylesSource;
+
+/// The logic behind one style-properties panel: what the targets' properties of one category are, where their
+/// values come from, and the commands on them.
+///
+/// A panel module derives from this class once for each category, overrides GetCategory() and adds its own
+/// bound names. The host makes the object through a factory, hands in targets with SetTargetStyle() and
+/// SetObjectStyles(), and reads everything else by bound name.
+///
+/// A *target* is a style that is shown: of a selected object, a default style of the document, or a named
+/// style. Its *category style* is itself when it is of this panel's category, else its substyle of that
+/// category.
+///
+/// Styles, siblings, the applicator and the host are borrowed: whoever hands them in keeps them alive until
+/// they are replaced. No operation reports an error; what is missing gives the neutral answer that is
+/// documented with it. All of it runs on the user interface's thread.
+class STYLEPROPERTIES_API BaseStylePropertiesDatasource
+    : public IGetModifyStyles,
+      public virtual PartialDataSource<BaseStylePropertiesDatasource, true>
+{
+public:
+    /// One data source that this one shows and edits the targets of as well.
+    struct SiblingEntry
+    {
+        BaseStylePropertiesDatasource* sibling = nullptr; ///< Borrowed; may be null, then it is passed over.
+        std::vector<Styles::PropertyPath> paths;          ///< For derived classes; empty and unused here.
+        bool flag = false;                                ///< For derived classes; false and unused here.
+    };
+
+    /// Makes a data source without targets.
+    ///
+    /// The bound names are registered when the object is complete, base first, before PostConstruct().
+    BaseStylePropertiesDatasource();
+
+    // The virtual operations stand in the order of the binary interface, whatever their access; the first
+    // four are those of IGetModifyStyles. Adding, removing or moving one breaks every panel module that was
+    // built before.
+
+    void ModifyStyles(std::unique_ptr<Styles::Style> values,
+                      const Styles::PropertyPaths* overridePaths) const override;
+
+    /// The style that is shown for the target at `index`: reached from the target along the applicator's path
+    /// where there is an applicator that gives one, else along the one key GetCategory(). Called wherever a
+    /// value is read.
+    ///
+    /// @returns null when there is no such target or the target is null. Missing substyles are created.
+    [[nodiscard]] Styles::Style* GetTargetStyle(std::size_t index) const override;
+
+    /// How many targets there are, null ones and those of siblings included.
+    [[nodiscard]] std::size_t GetNumTargetStyles() const override;
+
+    /// Tells whether there are targets, null ones included.
+    [[nodiscard]] bool HasTargets() const override;
+
+    /// The title above the panel's section; bound as "SectionTitle".
+    ///
+    /// After SetTargetStyle() it names the category and, where there is one, the style that the first target
+    /// inherits from, with every "&" doubled. While it is empty it is filled with the category's display name
+    /// as it is. An override decides what the panel reads; it need not call the base.
+    [[nodiscard]] virtual OvxStringT GetSectionTitle();
+
+    /// Takes new targets; what was derived from the old ones is derived anew. Raises "SectionTitle", nothing
+    /// else.
+    ///
+    /// @param styles         the targets, in order; borrowed until the next call; any may be null.
+    /// @param isDefault      the targets are the document's default styles. With siblings, they then count
+    /// only when
+    ///                       no sibling contributes a target.
+    /// @param path           where this data source's category lies within `forceAmbiguous`.
+    /// @param forceAmbiguous paths that must show as ambiguous; what lies under `path` is kept, see
+    ///                       ImportForceAmbiguous().
+    /// @note  Called by the host whenever the selection or the document changes. An override calls the base.
+    virtual void SetTargetStyle(const std::vector<Styles::Style*>& styles, bool isDefault,
+                                const Styles::PropertyPath& path,
+                                const std::set<Styles::PropertyPath>& forceAmbiguous);
+
+    /// Takes the document objects that own targets: a WNodeHandle* as a number for each style.
+    ///
+    /// Deselects the preset (SelectNoPreset) when the number of objects changes, or when the first object of
+    /// both maps, the one with the smallest style address, differs; the styles themselves are not compared.
+    /// Notifies nobody. An override calls the base.
+    virtual void SetObjectStyles(const std::map<Styles::Style*, std::size_t>& newObjectStyles);
+
+    /// The category under which the host keeps this panel's presets; empty, as here, for a panel without
+    /// presets.
+    [[nodiscard]] virtual OvxStringT PresetCategoryName() const;
+
+protected:
+    /// Decides where a change goes. Every write of this class ends here.
+    ///
+    /// @param paths         what is written; a path at which `values` holds nothing is reset.
+    /// @param values        the change style; may be null.
+    /// @param overridePaths what is written as overrides of the selected objects; may be null.
+    virtual void ModifyStyles(const Styles::PropertyPaths& paths, std::unique_ptr<Styles::Style> values,
+                              const Styles::PropertyPaths* overridePaths) const;
+
+public:
+    /// Opens a group: what is written until EndGroupModify() is one change.
+    virtual void StartGroupModify();
+
+    /// Closes the group, applying what was gathered, or dropping it when `commit` is false.
+    virtual void EndGroupModify(bool commit);
+
+protected:
+    /// Tells where the values that `identifier` names come from, over all targets.
+    ///
+    /// The first target sets the standard and is never tested for a missing parent; each further one is. The
+    /// identifier "style" asks about the whole category style: there the first target counts as overriding
+    /// when it holds anything at all, further ones only by properties of their own. Both asymmetries are
+    /// deliberate.
+    [[nodiscard]] virtual ActivePropertyState GetActivePropertyState(const OvxStringT& identifier) const;
+
+    /// Tells whether `style` itself sets the property at `path`; false for null. Asked for each path of an
+    /// identifier.
+    [[nodiscard]] virtual bool DoesOverrideProperty(Styles::Style* style,
+                                                    const Styles::PropertyPath& path) const;
+
+    /// Resets the properties at `paths` on the targets, so that they inherit again. Does nothing without
+    /// targets.
+    virtual void ClearProperties(const Styles::PropertyPaths& paths) const;
+
+    /// Makes `style` independent of its parent while it keeps every value that it shows.
+    virtual void SetNoParent(IStylesSource* source, Styles::Style* style) const;
+
+    /// Writes one property of the targets, or two when `key2` and `value2` are both given; with only one of
+    /// those the second property is left out. Does nothing without targets.
+    virtual void WriteTarget(const Styles::PropertyKey& key, const OvxUtils::Any& value,
+                             const Styles::PropertyKey* key2, const OvxUtils::Any* value2) const;
+
+    /// Sets one property in the panel's substyle of a named style of the default style sheet.
+    virtual void WriteToDefault(OvxStringT name, const Styles::PropertyKey& key,
+                                const OvxUtils::Any& value) const;
+
+    /// The paths of all properties of the category of `style`, which is not null; one key each, in key order.
+    [[nodiscard]] virtual Styles::PropertyPaths GetStyleCategoryProperties(Styles::Style* style) const;
+
+    /// The category whose properties this panel shows. The base answers PropertyKey::Empty; every panel
+    /// overrides it.
+    [[nodiscard]] virtual Styles::PropertyKey GetCategory() const;
+
+    /// What the style source's running transaction overrides; null when there is none.
+    [[nodiscard]] virtual Styles::IModifyStyleOverrides* GetTransactionOverrides() const;
+
+public:
+    /// Ends the members only: neither does it unregister this object from siblings, nor does it unsubscribe
+    /// anything. The owner of a sibling relation calls UnregisterSiblingDS() on both sides before either data
+    /// source goes.
+    ~BaseStylePropertiesDatasource() override;
+
+    /// Finds the style applicator that the host object of the data context offers, attaches this data source
+    /// to it, and learns whether this is the host's object-properties context. An override calls this first.
+    void PostConstruct() override;
+
+    /// Registers the bound names of every style-properties panel. Called once by the framework.
+    void FillDataSourceMap();
+
+    // Siblings
+
+    /// Adds a sibling, whose targets are merged in by the next SetTargetStyle().
+    ///
+    /// Nothing is checked: a sibling may be added twice, and is then merged twice. Null and this object
+    /// itself are passed over wherever siblings are used. The relation has one direction.
+    void RegisterSiblingDS(BaseStylePropertiesDatasource* sibling);
+
+    /// Removes every entry of a sibling; does nothing when there is none. Targets merged from it stay until
+    /// the next SetTargetStyle().
+    void UnregisterSiblingDS(BaseStylePropertiesDatasource* sibling);
+
+    // Targets
+
+    /// SetTargetStyle() with the path of one key.
+    void SetTargetStyle(const std::vector<Styles::Style*>& styles, bool isDefault, Styles::PropertyKey key,
+                        const std::set<Styles::PropertyPath>& forceAmbiguous);
+
+    /// SetObjectStyles() with an empty map.
+    void ClearObjectStyles();
+
+    /// All targets as they were merged, in order, null ones included.
+    [[nodiscard]] std::vector<Styles::Style*> GetTargetStyles() const;
+
+    [[nodiscard]] bool AreTargetsDefaultStyles() const { return isDefaultStyles; }
+
+    /// 1 when the panel edits the properties of objects rather than styles, else 0; bound under its name.
+    [[nodiscard]] int IsObjectProperties() const { return isObjectProperties ? 1 : 0; }
+
+    /// IsObjectProperties() for direct callers.
+    [[nodiscard]] bool IsObjectPropertiesContext() const { return isObjectProperties; }
+
+    /// Tells whether the first target is no named style of the sheet; also true without targets.
+    [[nodiscard]] bool IsObjectStyle() const { return styleName.empty(); }
+
+    /// IsObjectStyle() as 0 or 1; bound as "IsObjectStyle".
+    [[nodiscard]] int IsObjectStyleDatabound() const { return styleName.empty() ? 1 : 0; }
+
+    /// 1 when the first target is a named style that the application does not exclude, else 0.
+    [[nodiscard]] int IsStyle() const;
+
+    /// 1 when the first target is a named style, excluded or not, else 0.
+    [[nodiscard]] int IsStyleOrDefault() const { return styleName.empty() ? 0 : 1; }
+
+    /// 1 when the styles behind the targets may be edited, else 0: no style that is visited on the way from a
+    /// target to what it inherits from is external without a link. 1 without targets.
+    [[nodiscard]] int GetEnableStyleEditing() const;
+
+    // Ambiguity and state
+
+    /// The paths forced ambiguous, relative to GetCategory(); the empty path stands for all.
+    [[nodiscard]] const std::set<Styles::PropertyPath>& GetAmbiguousForce() const { return forceAmbiguous; }
+
+    /// Tells whether the targets disagree on the value at `path`.
+    ///
+    /// `path` is relative to GetCategory(); the empty path asks about the category as a whole and is
+    /// ambiguous only when forced. A path forced ambiguous, or below one that is, counts as disagreeing.
+    /// Otherwise the first non-empty value sets the standard: targets without a value before it are passed
+    /// over, one after it disagrees.
+    ///
+    /// @returns false with exactly one target, whatever is forced, and with none unless forced.
+    /// @note    May create a missing category substyle in a target, because it asks GetTargetStyle() for
+    /// each.
+    [[nodiscard]] bool IsAmbiguous(const Styles::PropertyPath& path) const;
+
+    /// IsAmbiguous() of the path of one key.
+    [[nodiscard]] bool IsAmbiguous(const Styles::PropertyKey& key) const;
+
+    /// IsAmbiguous() of the empty path.
+    [[nodiscard]] bool IsAmbiguous() const;
+
+    /// Names the property or properties of the row that commands and their enables are about: paths separated
+    /// by
+    /// ",", keys by ".", a path may end in "*"; or "style" for the whole style. Notifies
+    /// "RevertToParentEnable", then "BreakColorResourceEnable", also when the identifier stays the same.
+    void SetActiveIdentifier(const OvxStringT& identifier);
+
+    [[nodiscard]] OvxStringT GetActiveIdentifier() const { return activeIdentifier; }
+
+    /// Always empty: the bound property is a question that is asked by writing it.
+    [[nodiscard]] OvxUtils::Any GetPropertyIcon() const;
+
+    /// Writes into the ID_CString that `request` holds the name of the picture for the state of its
+    /// identifier.
+    ///
+    /// An empty `request` does nothing. The caller's own value is written to, never a copy.
+    ///
+    /// @throws std::bad_cast when `request` holds anything but an ID_CString.
+    void SetPropertyIcon(const OvxUtils::Any& request);
+
+    /// Always empty, as GetPropertyIcon().
+    [[nodiscard]] OvxUtils::Any GetPropertyTooltip() const { return GetPropertyIcon(); }
+
+    /// SetPropertyIcon() with the tooltip text of the state in place of the picture's name.
+    void SetPropertyTooltip(const OvxUtils::Any& request);
+
+    // Style commands
+
+    /// The answer of GetApplyToParentEnable(): one computation serves both.
+    [[nodiscard]] int GetRevertToParentEnable() const { return GetApplyToParentEnable(); }
+
+    void OnRevertToParent();
+    [[nodiscard]] int GetBreakColorResourceEnable() const;
+    void OnBreakColorResource();
+    [[nodiscard]] int GetApplyToParentEnable() const;
+    void OnApplyToParent();
+    [[nodiscard]] int GetCreateStyleFromEnable() const;
+    void OnCreateStyleFrom();
+    [[nodiscard]] int GetEditStyleEnable() const;
+    void OnEditStyle();
+    [[nodiscard]] OvxStringT GetRevertToMenuString() const;
+    [[nodiscard]] OvxStringT GetApplyToMenuString() const;
+    [[nodiscard]] OvxStringT GetEditStyleMenuString() const;
+
+    // Style resource list
+
+    [[nodiscard]] WXmlNode GetStyleResourceList();
+    [[nodiscard]] unsigned GetApplyStyleResource() const;
+    void SetApplyStyleResource(const unsigned& id);
+    [[nodiscard]] WXmlNode GetNewStyleList();
+    [[nodiscard]] WXmlNode GetCurrentListStyleItem() const;
+    void SetCurrentListStyleItem(const WXmlNode& item);
+    void OnBaseStylePropertiesDatasourceOk();
+    [[nodiscard]] int GetBaseStylePropertiesDatasourceOkEnabled() const;
+    [[nodiscard]] WCmnUI_Guid GetPropertyPanelStateIdentifier() const;
+
+    // Presets
+
+    [[nodiscard]] WCmnUI_List GetPresetList();
+    [[nodiscard]] WCmnUI_ListItem GetCurrentPreset();
+    void SetCurrentPreset(const WCmnUI_ListItem& item);
+    [[nodiscard]] int IsAddPresetEnabled() const;
+    void OnAddPreset();
+    [[nodiscard]] int IsDeletePresetEnabled() const;
+    void OnDeletePreset();
+
+    /// Deselects the preset: its index becomes -1, and in a panel that offers presets its text the no-preset
+    /// text. Notifies nobody.
+    void SelectNoPreset();
+
+protected:
+    /// The object that owns `style`, as it was handed in with SetObjectStyles(); null when there is none.
+    [[nodiscard]] WNodeHandle* GetObjectFromStyle(Styles::Style* style) const;
+
+    /// The number by which the style applicator knows this data source; 0 without one.
+    [[nodiscard]] int GetStyleApplicatorID() const { return styleApplicatorID; }
+
+    /// Adds to the forced paths what lies under `path` in `paths`, relative to `path`.
+    ///
+    /// When `paths` holds `path` itself or a prefix of it, everything is forced: the empty path is added and
+    /// nothing else. Removes nothing.
+    void ImportForceAmbiguous(const Styles::PropertyPath& path, const std::set<Styles::PropertyPath>& paths);
+
+    /// ImportForceAmbiguous() with the path of one key.
+    void ImportForceAmbiguous(const Styles::PropertyKey& key, const std::set<Styles::PropertyPath>& paths);
+
+    void ClearForceAmbiguous() { forceAmbiguous.clear(); }
+
+    /// Tells whether the category style of the first target has anything to inherit from: a parent of its
+    /// own, or, unless the category is that of whole styles, a substyle of this category in its owner's
+    /// parent.
+    [[nodiscard]] bool Private_HasParent() const;
+
+    /// Tells whether DoesOverrideProperty() holds for one of the paths of `identifier`; false for an empty
+    /// one. A last key "*" counts as a key.
+    [[nodiscard]] bool DoesOverrideProperties(Styles::Style* style, const OvxStringT& identifier) const;
+
+    /// Tells listeners that "PresetList" changed.
+    void OnPresetsListUpdated();
+
+private:
+    [[nodiscard]] bool HasParent() const;
+    [[nodiscard]] bool GetEnableStyleEditingInternal(const Styles::PropertyKey& category) const;
+    [[nodiscard]] bool ShouldIgnoreCharacterStyleSiblings() const;
+    [[nodiscard]] OvxStringT GetStyleNameBasedOnHeirarchy(Styles::Style* style) const;
+    [[nodiscard]] Styles::Style* GetFirstTarget() const;
+    [[nodiscard]] Styles::Style* GetCategoryStyle(Styles::Style* target) const;
+    [[nodiscard]] bool TakesPartAsSibling(const BaseStylePropertiesDatasource* sibling) const;
+    [[nodiscard]] OvxStringT MakeSectionTitle(const OvxStringT& categoryDisplayName) const;
+    [[nodiscard]] OvxStringT FindStyleNameOfFirstTarget() const;
+    [[nodiscard]] bool DoesWholeStyleOverride(const Styles::Style* categoryStyle) const;
+    void MergeSiblingTargets();
+    void AppendTargetsOf(const BaseStylePropertiesDatasource& sibling);
+    void RegisterStyleNames();
+    void RegisterListNames();
+    void RegisterPresetNames();
+
+    /// The styles handed in by the last SetTargetStyle(), in order. Borrowed from the host; any may be null.
+    std::vector<Styles::SubStyle> ownStyles;
+
+    /// What is shown: the own styles, or these merged with the targets of siblings. Borrowed; any may be
+    /// null.
+    std::vector<Styles::SubStyle> targetStyles;
+
+    /// The object of each style, a WNodeHandle* as a number. Borrowed until the next SetObjectStyles().
+    std::map<Styles::Style*, std::size_t> objectStyles;
+
+    /// Paths relative to the category that show as ambiguous; the empty path stands for all.
+    std::set<Styles::PropertyPath> forceAmbiguous;
+
+    bool isDefaultStyles = false;
+    bool isObjectProperties = false;
+    bool ignoreCharacterStyleSiblings = false;
+    OvxStringT activeIdentifier;
+    OvxStringT sectionTitle;
+
+    /// The sheet's name of the first target; empty for an object's own style.
+    OvxStringT styleName;
+
+    /// Makes the list nodes.
+    WXmlDoc listDocument;
+
+    /// The list built last; ids that come back are looked up in it.
+    WXmlNode resourceListNode;
+
+    /// The item chosen in the more-styles dialog; invalid while none is.
+    WXmlNode currentListItem;
+
+    /// The highest id that stands for a style of the main list.
+    std::int32_t visibleLimit = 18;
+
+    bool isNewStyleListBuilt = false;
+    std::int32_t listedStyleCount = 0;
+    std::int32_t styleApplicatorID = 0;
+
+    /// Takes over writes and gives the path to the edited substyle. Borrowed from the host object; may be
+    /// null.
+    IStyleApplicator* styleApplicator = nullptr;
+
+    /// One value computed when it is first asked for after SetTargetStyle(): see HasParent().
+    mutable bool hasParent = false;
+    mutable bool isHasParentPending = true;
+    OvxUtils::RepeatingCallback<bool()> hasParentDelegate;
+
+    WCmnUI_ListItem currentPreset;
+
+    /// Gathers writes while a group on default styles is open; null otherwise. Owned.
+    std::unique_ptr<Styles::Style> groupModifyStyle;
+
+    /// The paths written during the open group, in order, repeated ones too.
+    Styles::PropertyPaths groupModifyPaths;
+    Styles::PropertyPaths groupModifyOverridePaths;
+
+protected:
+    /// In order of registration. Borrowed: whoever ties data sources together unties them before either goes.
+    std::vector<SiblingEntry> siblings;
+};
