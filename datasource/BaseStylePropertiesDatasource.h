@@ -404,7 +404,7 @@ private:
     /// The highest id that stands for a style of the main list.
     std::int32_t visibleLimit = 18;
 
-    bool isNewStyleListBuilt = false;
+    bool newStyleListBuilt = false;
     std::int32_t listedStyleCount = 0;
     std::int32_t styleApplicatorID = 0;
 
@@ -414,7 +414,7 @@ private:
 
     /// One value computed when it is first asked for after SetTargetStyle(): see HasParent().
     mutable bool hasParent = false;
-    mutable bool isHasParentPending = true;
+    mutable bool hasParentPending = true;
     OvxUtils::RepeatingCallback<bool()> hasParentDelegate;
 
     WCmnUI_ListItem currentPreset;
