@@ -22,6 +22,8 @@ class EventBroadcaster
 {
 public:
     /// Calls the listeners of `name` now, without arguments.
+    ///
+    /// @throws whatever the first failing listener threw, after the last one was called.
     void NotifyListeners(const OvxStringT& name)
     {
         ThreadingPolicy::Check();
@@ -39,7 +41,10 @@ public:
         queue.Enqueue(std::move(event));
     }
 
-    /// Calls `listener` for each event of that name with its arguments, which must be of these types.
+    /// Calls `listener` for each event of that name with its arguments.
+    ///
+    /// An event that carries other types fails with std::bad_cast, one that carries fewer with
+    /// std::out_of_range; further ones are left out.
     template <class... Arguments>
     ListenerToken Subscribe(const OvxStringT& name, std::function<void(Arguments...)> listener)
     {
@@ -57,13 +62,15 @@ public:
     /// Ends a subscription; does nothing for an unknown token. May be called from inside a listener.
     void Unsubscribe(ListenerToken token) { queue.Unsubscribe(token); }
 
-    /// Delivers what waits; called by the application when it is idle.
+    /// Delivers what waits; called by the application when it is idle. What is queued meanwhile waits for the
+    /// next call.
     ///
     /// @returns how many events were delivered.
+    /// @throws whatever the first failing listener threw, after the last event was delivered.
     std::size_t DeliverPending()
     {
         ThreadingPolicy::Check();
-        return queue.Deliver();
+        return queue.Deliver([](const OvxStringT& name) { UpdatePolicy::PreNotify(name); });
     }
 
 private:

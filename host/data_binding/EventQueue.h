@@ -12,6 +12,8 @@
 #include <vector>
 
 /// The listeners and the waiting events of an EventBroadcaster, without its policies; the host's own insides.
+///
+/// Listeners may subscribe, unsubscribe and queue from inside a call. They must not destroy the queue.
 class STYLEPROPERTIES_HOST_API EventQueue
 {
 public:
@@ -23,15 +25,24 @@ public:
     ~EventQueue();
 
     /// Takes a copy of the tokens of `name` and calls each that is still registered when its turn comes.
+    ///
+    /// All of them are called, also when one throws.
+    ///
+    /// @throws whatever the first failing listener threw, after the last one was called.
     void Notify(OvxStringViewT name, const std::vector<OvxUtils::Any>& arguments);
 
-    /// Keeps an event until Deliver. Every event is kept; none are merged.
+    /// Keeps an event until Deliver. Every event is kept; none are merged. Null is ignored.
     void Enqueue(std::shared_ptr<PendingEventBase> event);
 
     /// Delivers the events that wait now, in order; those queued meanwhile wait for the next call.
     ///
-    /// @returns how many were delivered.
-    std::size_t Deliver();
+    /// `beforeEach`, when it is given, is told the name of each event before its listeners are called. A
+    /// listener may call Deliver again: it then delivers the rest of this round and whatever was queued
+    /// meanwhile. All events of the round are delivered, also when a listener throws.
+    ///
+    /// @returns how many were delivered, by this call itself.
+    /// @throws whatever the first failing listener threw, after the last event.
+    std::size_t Deliver(const std::function<void(const OvxStringT& name)>& beforeEach = {});
 
     ListenerToken Subscribe(OvxStringViewT name, Listener listener);
     void Unsubscribe(ListenerToken token);

@@ -19,7 +19,11 @@ public:
     ///
     /// Listeners of one name are called in the order in which they were added; one that is removed meanwhile
     /// is not called any more, one that is added meanwhile not yet. A listener may destroy this object:
-    /// nothing after that call is delivered.
+    /// nothing after that call is delivered. Empty names among the joined ones are passed over.
+    ///
+    /// All listeners are called, also when one throws.
+    ///
+    /// @throws whatever the first failing listener threw, after the last one was called.
     void UpdateListeners(OvxStringViewT names);
 
     /// Calls `listener` with the name for each change of the property `name` (one name, no commas).

@@ -65,7 +65,9 @@ public:
     template <class T>
     [[nodiscard]] T Read(OvxStringViewT name) const
     {
-        const auto* getter = FindGetter(name).callback.TryGet<T()>();
+        // The copy keeps the call alive should it register the name anew.
+        const OvxUtils::RepeatingCallbackMemento callback = FindGetter(name).callback;
+        const auto* getter = callback.TryGet<T()>();
         if (getter == nullptr)
             throw std::bad_cast();
         return (*getter)();
@@ -78,7 +80,8 @@ public:
     template <class T>
     void Write(OvxStringViewT name, const T& value)
     {
-        const auto* setter = FindSetter(name).callback.TryGet<void(const T&)>();
+        const OvxUtils::RepeatingCallbackMemento callback = FindSetter(name).callback;
+        const auto* setter = callback.TryGet<void(const T&)>();
         if (setter == nullptr)
             throw std::bad_cast();
         (*setter)(value);
