@@ -1,14 +1,28 @@
 #include "reference_host/document/DocumentError.h"
 
+#include <algorithm>
+
 namespace ReferenceHost
 {
 
-DocumentError::DocumentError(const std::string& problem, const std::string& where,
-                             const std::string& expected)
-    : std::runtime_error(where + ": " + problem + "; expected " + expected),
-      problem(problem),
-      where(where),
-      expected(expected)
+namespace
+{
+
+/// Names that come out of files may hold line breaks; an error is one line all the same.
+std::string OneLine(std::string text)
+{
+    std::ranges::replace_if(
+        text, [](char byte) { return byte == '\n' || byte == '\r'; }, ' ');
+    return text;
+}
+
+} // namespace
+
+DocumentError::DocumentError(const std::string& what, const std::string& place, const std::string& instead)
+    : std::runtime_error(OneLine(place + ": " + what + "; expected " + instead)),
+      problem(what),
+      where(place),
+      expected(instead)
 {
 }
 

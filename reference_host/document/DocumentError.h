@@ -15,10 +15,10 @@ namespace ReferenceHost
 class STYLEPROPERTIES_HOST_API DocumentError : public std::runtime_error
 {
 public:
-    /// @param problem  what is wrong, as half a sentence without a full stop.
-    /// @param where    the file, with the zip entry, the line or the element as far as they are known.
-    /// @param expected what would have been right, as half a sentence that follows "expected".
-    DocumentError(const std::string& problem, const std::string& where, const std::string& expected);
+    /// @param what    what is wrong, as half a sentence without a full stop.
+    /// @param place   the file, with the zip entry, the line or the element as far as they are known.
+    /// @param instead what would have been right, as half a sentence that follows "expected".
+    DocumentError(const std::string& what, const std::string& place, const std::string& instead);
 
     DocumentError(const DocumentError&) = default;
     DocumentError& operator=(const DocumentError&) = default;

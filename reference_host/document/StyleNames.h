@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/utils/OvxStringT.h"
+
+#include <string_view>
+
+namespace ReferenceHost
+{
+
+/// Decodes a name that was made fit for XML: "Mid_20_One" is "Mid One", and "_hex_" in general the character
+/// with that code.
+///
+/// Programs encode only what a name of XML cannot hold, and the underscore itself. Where "_hex_" stands for
+/// anything else (a letter, a digit inside the name, a control character) it is part of the name as it is:
+/// "box_a_1" stays.
+[[nodiscard]] OvxStringT DecodeStyleName(std::string_view encoded);
+
+} // namespace ReferenceHost

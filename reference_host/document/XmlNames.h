@@ -1,0 +1,56 @@
+#pragma once
+
+#include "reference_host/document/NamespaceBindings.h"
+
+#include <pugixml.hpp>
+
+#include <cstddef>
+#include <string_view>
+
+namespace ReferenceHost
+{
+
+/// A name of XML with its namespace resolved; without one the URI is empty. Borrows both texts.
+struct XmlName
+{
+    std::string_view uri;
+    std::string_view local;
+
+    friend bool operator==(const XmlName&, const XmlName&) = default;
+};
+
+/// Resolves the names of a tree while it is walked.
+///
+/// Whoever goes into an element holds a Scope for it, and lets it go after its attributes and children were
+/// read.
+class XmlNames
+{
+public:
+    /// Keeps the declarations of one element in force.
+    class Scope
+    {
+    public:
+        Scope(XmlNames& owner, pugi::xml_node element);
+        Scope(const Scope&) = delete;
+        Scope& operator=(const Scope&) = delete;
+        ~Scope();
+
+    private:
+        XmlNames& names;
+        std::size_t mark;
+    };
+
+    /// The name of an element whose own Scope is in force.
+    [[nodiscard]] XmlName Of(pugi::xml_node element);
+
+    /// The name of an attribute of the element whose Scope is in force.
+    [[nodiscard]] XmlName Of(pugi::xml_attribute attribute);
+
+    /// The value of an attribute of the element whose Scope is in force; empty without it.
+    [[nodiscard]] std::string_view Attribute(pugi::xml_node element, XmlName name);
+
+private:
+    NamespaceBindings bindings;
+};
+
+} // namespace ReferenceHost

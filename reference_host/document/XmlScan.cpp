@@ -1,0 +1,13 @@
+#include "reference_host/document/XmlScan.h"
+
+#include "reference_host/document/XmlScanner.h"
+
+namespace ReferenceHost
+{
+
+void ScanXml(std::string_view text, const std::string& label)
+{
+    XmlScanner(text, label).Run();
+}
+
+} // namespace ReferenceHost

@@ -1,0 +1,243 @@
+// What stands inside a start tag: its name, its attributes, their namespaces and the references in their
+// values.
+#include "reference_host/document/XmlScan.h"
+#include "reference_host/document/XmlScanner.h"
+#include "reference_host/document/XmlText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <utility>
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+/// Up to here every attribute is compared with every other, which is fastest for the few that tags have.
+constexpr std::size_t kFewAttributes = 24;
+
+constexpr std::array<std::string_view, 5> kKnownEntities{"lt", "gt", "amp", "apos", "quot"};
+
+/// A qualified name in two parts; the prefix is empty without a colon.
+struct SplitName
+{
+    std::string_view prefix;
+    std::string_view local;
+};
+
+SplitName Split(std::string_view name)
+{
+    const std::size_t colon = name.find(':');
+    if (colon == std::string_view::npos)
+        return {{}, name};
+    return {name.substr(0, colon), name.substr(colon + 1)};
+}
+
+bool IsDeclaration(std::string_view name)
+{
+    return name.starts_with("xmlns") && (name.size() == 5 || name[5] == ':');
+}
+
+/// Tells whether the text between "&#" and ";" names a character that XML allows.
+bool IsCharacterNumber(std::string_view digits)
+{
+    const bool isHex = digits.starts_with('x');
+    const std::string_view number = isHex ? digits.substr(1) : digits;
+    std::uint32_t codePoint = 0;
+    const auto [end, error] =
+        std::from_chars(number.data(), number.data() + number.size(), codePoint, isHex ? 16 : 10);
+    return error == std::errc() && end == number.data() + number.size() && IsXmlCharacter(codePoint);
+}
+
+} // namespace
+
+void XmlScanner::ScanStartTag()
+{
+    ++place;
+    if (open.empty() && rootSeen)
+        Fail("there is a second root element", "one root element");
+    const std::string_view element = ScanName();
+    const std::size_t outerBindings = bindings.Mark();
+    attributes.clear();
+    open.push_back({element, outerBindings});
+    if (open.size() > kDeepestNesting)
+        Fail("elements nest deeper than " + std::to_string(kDeepestNesting), "a flatter document");
+    rootSeen = true;
+    for (;;)
+    {
+        const std::size_t before = place;
+        SkipBlanks();
+        if (AtEnd())
+            Fail("the start tag is not finished", "\">\"");
+        if (Here() == '>' || Here() == '/')
+            break;
+        if (place == before)
+            Fail("two attributes are not separated", "a blank between them");
+        ScanAttribute();
+    }
+    DeclareNamespaces(element);
+    CheckDuplicates(element);
+    const bool isEmpty = StartsWith("/>");
+    if (!isEmpty && Here() == '/')
+        Fail("the start tag is not finished", "\"/>\"");
+    place += isEmpty ? 2 : 1;
+    if (!isEmpty)
+        return;
+    bindings.Release(outerBindings);
+    open.pop_back();
+}
+
+std::string_view XmlScanner::ScanName()
+{
+    const std::size_t begin = place;
+    if (AtEnd() || !IsXmlNameStartByte(Here()))
+        Fail("there is no name where one must stand",
+             "a name after \"<\"; \"&lt;\" for the character itself");
+    while (!AtEnd() && IsXmlNameByte(Here()))
+        SkipCharacter();
+    const std::string_view name = text.substr(begin, place - begin);
+    const bool isQualified = std::ranges::count(name, ':') <= 1 && name.front() != ':' && name.back() != ':';
+    if (!isQualified)
+        Fail("\"" + std::string(name) + "\" is no name", "at most one prefix, and a name after it");
+    return name;
+}
+
+void XmlScanner::ScanAttribute()
+{
+    if (!IsXmlNameStartByte(Here()))
+        Fail("there is something else where an attribute must stand", "an attribute or the end of the tag");
+    const std::string_view name = ScanName();
+    SkipBlanks();
+    if (AtEnd() || Here() != '=')
+        Fail("the attribute " + std::string(name) + " has no value", "name=\"value\"");
+    ++place;
+    SkipBlanks();
+    const char quote = AtEnd() ? '\0' : Here();
+    if (quote != '"' && quote != '\'')
+        Fail("the value of " + std::string(name) + " is not quoted", "name=\"value\"");
+    const std::size_t begin = ++place;
+    ScanAttributeValue(quote);
+    attributes.push_back({name, text.substr(begin, place - begin)});
+    ++place;
+}
+
+void XmlScanner::ScanAttributeValue(char quote)
+{
+    for (;;)
+    {
+        SkipPlain();
+        if (AtEnd())
+            Fail("an attribute value is not finished", std::string(1, quote));
+        if (Here() == quote)
+            return;
+        if (Here() == '<')
+            Fail("\"<\" stands in an attribute value", "\"&lt;\"");
+        if (Here() == '&')
+            ScanReference();
+        else
+            ++place;
+    }
+}
+
+void XmlScanner::ScanReference()
+{
+    constexpr std::size_t kLongestReference = 16;
+    const std::string_view rest = text.substr(place + 1, kLongestReference);
+    const std::size_t end = rest.find(';');
+    const std::string_view name = rest.substr(0, end == std::string_view::npos ? 0 : end);
+    const bool isKnown = name.starts_with('#')
+                             ? IsCharacterNumber(name.substr(1))
+                             : std::ranges::find(kKnownEntities, name) != kKnownEntities.end();
+    if (!isKnown)
+        Fail("\"&\" does not begin a reference that XML knows", "\"&amp;\" or a character reference");
+    place += name.size() + 2;
+}
+
+void XmlScanner::DeclareNamespaces(std::string_view element)
+{
+    for (const Attribute& attribute : attributes)
+    {
+        if (IsDeclaration(attribute.name))
+            DeclareNamespace(attribute);
+    }
+    CheckPrefixes(element);
+}
+
+void XmlScanner::DeclareNamespace(const Attribute& attribute)
+{
+    const bool isDefault = attribute.name.size() == 5;
+    const std::string_view prefix = isDefault ? std::string_view() : attribute.name.substr(6);
+    if (!isDefault && attribute.value.empty())
+        Fail("the prefix " + std::string(prefix) + " is declared for no namespace", "the URI of a namespace");
+    bindings.Declare(prefix, attribute.value);
+}
+
+void XmlScanner::CheckPrefixes(std::string_view element)
+{
+    const auto check = [this](std::string_view name)
+    {
+        const std::string_view prefix = Split(name).prefix;
+        if (!prefix.empty() && bindings.Find(prefix) == nullptr)
+            Fail("the prefix of " + std::string(name) + " is not declared", "xmlns:" + std::string(prefix));
+    };
+    check(element);
+    for (const Attribute& attribute : attributes)
+    {
+        if (!IsDeclaration(attribute.name))
+            check(attribute.name);
+    }
+}
+
+void XmlScanner::CheckDuplicates(std::string_view element)
+{
+    const auto fail = [&](std::string_view name)
+    { Fail("the attribute " + std::string(name) + " stands there twice", "it once", element); };
+    if (attributes.size() <= kFewAttributes)
+    {
+        for (std::size_t later = 1; later < attributes.size(); ++later)
+        {
+            for (std::size_t earlier = 0; earlier < later; ++earlier)
+            {
+                if (attributes[earlier].name == attributes[later].name)
+                    fail(attributes[later].name);
+            }
+        }
+    }
+    else
+    {
+        std::vector<std::string_view> names;
+        names.reserve(attributes.size());
+        std::ranges::transform(attributes, std::back_inserter(names), &Attribute::name);
+        std::ranges::sort(names);
+        const auto twice = std::ranges::adjacent_find(names);
+        if (twice != names.end())
+            fail(*twice);
+    }
+    // Two spellings are one attribute only where two prefixes stand for one namespace, which is rare.
+    if (bindings.HasAliases())
+        CheckResolvedDuplicates(element);
+}
+
+void XmlScanner::CheckResolvedDuplicates(std::string_view element)
+{
+    std::vector<std::pair<std::string_view, std::string_view>> names;
+    for (const Attribute& attribute : attributes)
+    {
+        const SplitName name = Split(attribute.name);
+        if (!name.prefix.empty() && !IsDeclaration(attribute.name))
+            names.emplace_back(*bindings.Find(name.prefix), name.local);
+    }
+    std::ranges::sort(names);
+    const auto twice = std::ranges::adjacent_find(names);
+    if (twice != names.end())
+    {
+        Fail("the attribute " + std::string(twice->second) +
+                 " stands there twice, by two prefixes of one namespace",
+             "it once", element);
+    }
+}
+
+} // namespace ReferenceHost
