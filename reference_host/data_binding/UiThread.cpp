@@ -30,7 +30,7 @@ void UiThread::Check() noexcept
 
 void UiThread::Reset() noexcept
 {
-    owner = std::thread::id();
+    owner = nullptr;
 }
 
 } // namespace ReferenceHost
