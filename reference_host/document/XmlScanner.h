@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/NamespaceBindings.h"
+#include "reference_host/document/XmlText.h"
 
 #include <cstddef>
 #include <string>
@@ -60,8 +61,11 @@ private:
     // Characters
     void SkipBlanks();
     void SkipPlain();
+
     void SkipCharacter();
-    void SkipMultibyte();
+
+    /// A character of several bytes, or one that is not allowed.
+    void SkipUnusual();
     void SkipThrough(std::string_view terminator, const char* construct);
     [[nodiscard]] bool StartsWith(std::string_view expected) const;
 

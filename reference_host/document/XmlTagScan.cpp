@@ -96,11 +96,19 @@ std::string_view XmlScanner::ScanName()
     if (AtEnd() || !IsXmlNameStartByte(Here()))
         Fail("there is no name where one must stand",
              "a name after \"<\"; \"&lt;\" for the character itself");
+    std::size_t colons = 0;
     while (!AtEnd() && IsXmlNameByte(Here()))
-        SkipCharacter();
+    {
+        const char* at = text.data() + place;
+        const char* const end = text.data() + text.size();
+        for (; at != end && IsXmlNameByte(*at) && ClassifyXmlByte(*at) != XmlByte::Multibyte; ++at)
+            colons += *at == ':' ? 1U : 0U;
+        place = static_cast<std::size_t>(at - text.data());
+        if (!AtEnd() && ClassifyXmlByte(Here()) == XmlByte::Multibyte)
+            SkipUnusual();
+    }
     const std::string_view name = text.substr(begin, place - begin);
-    const bool isQualified = std::ranges::count(name, ':') <= 1 && name.front() != ':' && name.back() != ':';
-    if (!isQualified)
+    if (colons > 1 || name.front() == ':' || name.back() == ':')
         Fail("\"" + std::string(name) + "\" is no name", "at most one prefix, and a name after it");
     return name;
 }

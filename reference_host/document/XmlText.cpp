@@ -9,49 +9,6 @@ namespace ReferenceHost
 namespace
 {
 
-constexpr std::size_t Index(char byte)
-{
-    return static_cast<unsigned char>(byte);
-}
-
-constexpr std::array<XmlByte, 256> kMeanings = []
-{
-    std::array<XmlByte, 256> meanings{};
-    for (std::size_t byte = 0; byte < 0x20; ++byte)
-        meanings[byte] = XmlByte::Forbidden;
-    for (const char blank : {'\t', '\n', '\r'})
-        meanings[Index(blank)] = XmlByte::Plain;
-    for (std::size_t byte = 0x80; byte < 0x100; ++byte)
-        meanings[byte] = XmlByte::Multibyte;
-    meanings[Index('<')] = XmlByte::Less;
-    meanings[Index('&')] = XmlByte::Ampersand;
-    meanings[Index(']')] = XmlByte::Bracket;
-    meanings[Index('"')] = XmlByte::Quote;
-    meanings[Index('\'')] = XmlByte::Quote;
-    return meanings;
-}();
-
-enum class NameByte : std::uint8_t
-{
-    No,
-    Inside,
-    Start
-};
-
-constexpr std::array<NameByte, 256> kNameBytes = []
-{
-    std::array<NameByte, 256> bytes{};
-    for (std::size_t byte = 0x80; byte < 0x100; ++byte)
-        bytes[byte] = NameByte::Start;
-    for (std::size_t letter = 0; letter < 26; ++letter)
-        bytes[Index('a') + letter] = bytes[Index('A') + letter] = NameByte::Start;
-    bytes[Index('_')] = bytes[Index(':')] = NameByte::Start;
-    for (std::size_t digit = 0; digit < 10; ++digit)
-        bytes[Index('0') + digit] = NameByte::Inside;
-    bytes[Index('-')] = bytes[Index('.')] = NameByte::Inside;
-    return bytes;
-}();
-
 /// A range of first bytes, and what must follow: the smallest and largest second byte rule out overlong
 /// forms, surrogates and too large values.
 struct Sequence
@@ -73,21 +30,6 @@ constexpr std::array<Sequence, 8> kSequences{{{0xC2, 0xDF, 0x80, 0xBF, 2},
                                               {0xF4, 0xF4, 0x80, 0x8F, 4}}};
 
 } // namespace
-
-XmlByte ClassifyXmlByte(char byte) noexcept
-{
-    return kMeanings[Index(byte)];
-}
-
-bool IsXmlNameByte(char byte) noexcept
-{
-    return kNameBytes[Index(byte)] != NameByte::No;
-}
-
-bool IsXmlNameStartByte(char byte) noexcept
-{
-    return kNameBytes[Index(byte)] == NameByte::Start;
-}
 
 bool IsXmlCharacter(std::uint32_t codePoint) noexcept
 {

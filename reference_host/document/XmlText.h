@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -19,14 +20,70 @@ enum class XmlByte : std::uint8_t
     Forbidden  ///< A control character that XML does not allow.
 };
 
+/// What a byte can be in a name; bytes of longer sequences can be anything.
+enum class XmlNameByte : std::uint8_t
+{
+    No,
+    Inside,
+    Start
+};
+
+/// The place of a byte in a table of all 256.
+constexpr std::size_t IndexOf(char byte)
+{
+    return static_cast<unsigned char>(byte);
+}
+
+/// The meaning of each byte. It stands here because every byte of a drawing is looked up in it.
+inline constexpr std::array<XmlByte, 256> kXmlBytes = []
+{
+    std::array<XmlByte, 256> meanings{};
+    for (std::size_t byte = 0; byte < 0x20; ++byte)
+        meanings[byte] = XmlByte::Forbidden;
+    for (const char blank : {'\t', '\n', '\r'})
+        meanings[IndexOf(blank)] = XmlByte::Plain;
+    for (std::size_t byte = 0x80; byte < 0x100; ++byte)
+        meanings[byte] = XmlByte::Multibyte;
+    meanings[IndexOf('<')] = XmlByte::Less;
+    meanings[IndexOf('&')] = XmlByte::Ampersand;
+    meanings[IndexOf(']')] = XmlByte::Bracket;
+    meanings[IndexOf('"')] = XmlByte::Quote;
+    meanings[IndexOf('\'')] = XmlByte::Quote;
+    return meanings;
+}();
+
+/// What each byte can be in a name.
+inline constexpr std::array<XmlNameByte, 256> kXmlNameBytes = []
+{
+    std::array<XmlNameByte, 256> bytes{};
+    for (std::size_t byte = 0x80; byte < 0x100; ++byte)
+        bytes[byte] = XmlNameByte::Start;
+    for (std::size_t letter = 0; letter < 26; ++letter)
+        bytes[IndexOf('a') + letter] = bytes[IndexOf('A') + letter] = XmlNameByte::Start;
+    bytes[IndexOf('_')] = bytes[IndexOf(':')] = XmlNameByte::Start;
+    for (std::size_t digit = 0; digit < 10; ++digit)
+        bytes[IndexOf('0') + digit] = XmlNameByte::Inside;
+    bytes[IndexOf('-')] = bytes[IndexOf('.')] = XmlNameByte::Inside;
+    return bytes;
+}();
+
 /// The meaning of a byte.
-[[nodiscard]] XmlByte ClassifyXmlByte(char byte) noexcept;
+[[nodiscard]] constexpr XmlByte ClassifyXmlByte(char byte) noexcept
+{
+    return kXmlBytes[IndexOf(byte)];
+}
 
-/// Tells whether a byte may stand in a name; bytes of longer sequences may.
-[[nodiscard]] bool IsXmlNameByte(char byte) noexcept;
+/// Tells whether a byte may stand in a name.
+[[nodiscard]] constexpr bool IsXmlNameByte(char byte) noexcept
+{
+    return kXmlNameBytes[IndexOf(byte)] != XmlNameByte::No;
+}
 
-/// Tells whether a byte may begin a name; bytes of longer sequences may.
-[[nodiscard]] bool IsXmlNameStartByte(char byte) noexcept;
+/// Tells whether a byte may begin a name.
+[[nodiscard]] constexpr bool IsXmlNameStartByte(char byte) noexcept
+{
+    return kXmlNameBytes[IndexOf(byte)] == XmlNameByte::Start;
+}
 
 /// Tells whether a byte is one of the four blanks of XML.
 [[nodiscard]] constexpr bool IsXmlBlank(char byte) noexcept
