@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/Export.h"
+
 #include <pugixml.hpp>
 
 #include <memory>
@@ -15,6 +17,7 @@ namespace ReferenceHost
 ///
 /// @param label names the text in errors.
 /// @throws DocumentError
-[[nodiscard]] std::unique_ptr<pugi::xml_document> ParseXml(std::string_view text, const std::string& label);
+[[nodiscard]] STYLEPROPERTIES_HOST_API std::unique_ptr<pugi::xml_document> ParseXml(std::string_view text,
+                                                                                    const std::string& label);
 
 } // namespace ReferenceHost
