@@ -9,9 +9,9 @@ check=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)/panel-names.sh
 # A house with two panels; the expectations add one program.
 panels=(
     panels/fill/Brush.h 'class PANELS_API Brush final : public PanelDatasource'
-    panels/fill/fill.xml '<row identifier="color" property="PaintColor" label="x"/>'
+    panels/fill/fill.panel.xml '<panel class="PaintBox"><row identifier="color" property="PaintColor" label="x"/></panel>'
     panels/style/Whole.cpp 'struct Whole'
-    panels/style/style.xml '<row identifier="style" property="StyleName"/>'
+    panels/style/style.panel.xml '<row identifier="style" property="StyleName"/>'
     panels/character/Letters.cpp 'class Letters {'
     datasource/PropertyTable.cpp '{L"StyleName", 1},'
 )
@@ -43,6 +43,7 @@ knows_one "a module's file" 'names the panel fill: "libfill.so"' 'Load("libfill.
 knows_one "a module's folder" 'names the panel style: "panels/style"' 'Load("panels/style");'
 knows_one "an example" 'names the panel style' 'out << "tool inspect x.fodg --panel style";'
 knows_one "a class" 'a class of a panel: Brush' 'auto brush = Brush();'
+knows_one "a class that the description tells" 'a class of a panel: PaintBox' 'registrar.Find<PaintBox>();'
 knows_one "a header" 'includes the header of a panel' '#include "panels/fill/Brush.h"'
 knows_one "a category" 'a category of a panel: FillStyleCategoryName' 'if (category == FillStyleCategoryName)'
 knows_one "an identifier" 'names a panel: IsFillPanel' 'bool IsFillPanel(const Panel& panel);'

@@ -10,21 +10,34 @@
 #   handed in.
 #
 # "style" is an everyday word of these programs, so alone it is nobody's name; as a path or behind "--panel" it is.
-# The panels are the folders in panels/ that hold a source.
+# The panels are the folders in panels/ that hold a source or a description.
 set -euo pipefail
 
 cd "${1:?usage: panel-names.sh ROOT}"
 
+# declared_classes FILE...: the classes that C++ files declare, in one line.
+declared_classes()
+{
+    sed -nE 's/^[[:space:]]*(class|struct)[[:space:]]+([A-Z_]+[[:space:]]+)?([A-Za-z0-9_]+).*/\3/p' /dev/null "$@" | tr '\n' ' '
+}
+
+# attributes NAME FILE...: the values of this attribute in descriptions, in one line.
+attributes()
+{
+    local name=$1
+    shift
+    cat /dev/null "$@" | tr '\n<' ' \n' | sed -nE 's/.*[[:space:]]'"$name"'="([^"]*)".*/\1/p' | tr '\n' ' '
+}
+
 shopt -s nullglob
 names='' classes='' properties=''
 for folder in panels/*/; do
-    files=("$folder"*.cpp "$folder"*.h)
-    [ ${#files[@]} -gt 0 ] || continue
+    sources=("$folder"*.cpp "$folder"*.h)
+    descriptions=("$folder"*.panel.xml)
+    [ ${#sources[@]} -gt 0 ] || [ ${#descriptions[@]} -gt 0 ] || continue
     names+=" $(basename "$folder")"
-    classes+=" $(sed -nE 's/^[[:space:]]*(class|struct)[[:space:]]+([A-Z_]+[[:space:]]+)?([A-Za-z0-9_]+).*/\3/p' "${files[@]}" | tr '\n' ' ')"
-    descriptions=("$folder"*.xml)
-    [ ${#descriptions[@]} -eq 0 ] ||
-        properties+=" $(sed -nE 's/.*[[:space:]]property="([^"]*)".*/\1/p' "${descriptions[@]}" | tr '\n' ' ')"
+    classes+=" $(declared_classes "${sources[@]}") $(attributes class "${descriptions[@]}")"
+    properties+=" $(attributes property "${descriptions[@]}")"
 done
 [ -n "$names" ] || { echo "No panel in $PWD/panels"; exit 1; }
 
