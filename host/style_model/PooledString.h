@@ -16,7 +16,13 @@ template <class Pool>
 class PooledString
 {
 public:
+    using Text = typename Pool::Text;
+
     constexpr PooledString() = default;
+
+    /// Stands for a text that the pool already keeps, so that constants need no initialiser that runs; null
+    /// is empty.
+    constexpr explicit PooledString(const Text* kept) noexcept : pooled(kept) {}
 
     explicit PooledString(OvxStringViewT text) : pooled(Pool::Intern(text)) {}
 
@@ -26,10 +32,16 @@ public:
 
     [[nodiscard]] bool IsEmpty() const noexcept { return pooled == nullptr; }
 
-    [[nodiscard]] OvxStringT GetString() const { return pooled == nullptr ? OvxStringT() : *pooled; }
+    [[nodiscard]] OvxStringT GetString() const { return OvxStringT(GetView()); }
+
+    /// The text without a copy of it; valid for as long as the process runs.
+    [[nodiscard]] OvxStringViewT GetView() const noexcept
+    {
+        return pooled == nullptr ? OvxStringViewT() : pooled->characters;
+    }
 
     /// The address that stands for the text; null for the empty one.
-    [[nodiscard]] const OvxStringT* GetIdentity() const noexcept { return pooled; }
+    [[nodiscard]] const Text* GetIdentity() const noexcept { return pooled; }
 
     friend bool operator==(const PooledString&, const PooledString&) = default;
 
@@ -39,7 +51,7 @@ public:
     }
 
 private:
-    const OvxStringT* pooled = nullptr;
+    const Text* pooled = nullptr;
 };
 
 } // namespace Styles

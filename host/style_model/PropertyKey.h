@@ -19,9 +19,9 @@ class STYLEPROPERTIES_HOST_API PropertyKey
 public:
     constexpr PropertyKey() = default;
 
-    PropertyKey(PooledString<StringPool> pooled) : name(pooled) {}
+    constexpr PropertyKey(PooledString<StringPool> pooled) : name(pooled) {}
 
-    /// The key without a name.
+    /// The key without a name. Usable from any static initialiser.
     static const PropertyKey Empty;
 
     [[nodiscard]] OvxStringT GetString() const { return name.GetString(); }

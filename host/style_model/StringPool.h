@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/Export.h"
-#include "host/utils/OvxStringT.h"
+#include "host/utils/OvxStringViewT.h"
 
 namespace Styles
 {
@@ -13,8 +13,14 @@ namespace Styles
 class STYLEPROPERTIES_HOST_API StringPool
 {
 public:
+    /// A text of the pool. Only the pool's own have a meaning; their addresses tell them apart.
+    struct Text
+    {
+        OvxStringViewT characters;
+    };
+
     /// Gives the pooled text equal to `text`, adding it when it is not there; null for the empty text.
-    [[nodiscard]] static const OvxStringT* Intern(OvxStringViewT text);
+    [[nodiscard]] static const Text* Intern(OvxStringViewT text);
 };
 
 } // namespace Styles

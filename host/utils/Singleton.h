@@ -17,8 +17,10 @@ namespace OvxUtils
 /// One instance of `T` for the whole process, however many modules use it.
 ///
 /// Each module instantiates this template for itself and keeps only a pointer to the entry that
-/// SingletonLibrary holds; the pointer is withdrawn when the module that made the data is unloaded. All
-/// operations are safe from any thread; the instance itself is not guarded.
+/// SingletonLibrary holds; the pointer is withdrawn when the module that made the data is unloaded. The
+/// instance is always made and ended by code of that module, whoever asks for it, so that none outlives its
+/// own code. All operations are safe from any thread; the instance itself is not guarded, and no operation
+/// may still run while the module that made the data is being unloaded.
 template <class T>
 class STYLEPROPERTIES_MODULE_LOCAL Singleton
 {
@@ -43,7 +45,7 @@ public:
     static void RegisterFinalizer();
 
     /// Tells the registry that this module is going. Its own address is the module's name there.
-    static void StaticFinalizer() { SingletonLibrary::NotifySingletonModuleUnloaded(&StaticFinalizer); }
+    static void StaticFinalizer();
 
 private:
     /// What all modules share.
@@ -52,6 +54,10 @@ private:
         std::atomic<T*> instance = nullptr; ///< Owned; null until first needed. Changed under `lock` only.
         std::atomic<bool> released = false; ///< Set when the instance was released for good.
         ThreadLock lock;
+
+        /// How the module that made the data makes and ends instances.
+        T* (*const createInstance)() = &CreateInstance;
+        void (*const deleteInstance)(T*) = &DeleteInstance;
     };
 
     /// The callback by which the registry withdraws the entry; takes itself off the registry when the module
@@ -99,7 +105,7 @@ void Singleton<T>::ReleaseInstance(bool final)
         return;
 
     WriteLock lock(data->lock);
-    DeleteInstance(data->instance.exchange(nullptr));
+    data->deleteInstance(data->instance.exchange(nullptr));
     if (final)
         data->released = true;
 }
@@ -112,17 +118,31 @@ void Singleton<T>::RegisterFinalizer()
 }
 
 template <class T>
+void Singleton<T>::StaticFinalizer()
+{
+    // An exit routine that runs later may ask for the instance again; what it makes is ended by a second
+    // round.
+    finalizerRegistered = false;
+    SingletonLibrary::NotifySingletonModuleUnloaded(&StaticFinalizer);
+}
+
+template <class T>
 typename Singleton<T>::SingletonData* Singleton<T>::GetSingletonData(bool create)
 {
     static const WithdrawCallback withdraw;
 
+    // The entry may have been taken away just before it was stored here; one without data is asked for again.
     SingletonEntry* entry = g_pEntry.load();
-    if (entry == nullptr)
+    void* data = entry == nullptr ? nullptr : entry->data.load();
+    while (data == nullptr)
     {
         entry = SingletonLibrary::GetEntryForType(Type(), &CreateData, create, withdraw.function);
+        if (entry == nullptr)
+            return nullptr;
         g_pEntry.exchange(entry);
+        data = entry->data.load();
     }
-    return entry == nullptr ? nullptr : static_cast<SingletonData*>(entry->data);
+    return static_cast<SingletonData*>(data);
 }
 
 template <class T>
@@ -131,7 +151,7 @@ void Singleton<T>::CreateData(SingletonEntry& entry, bool create)
     if (!create)
         return;
 
-    if (entry.data == nullptr)
+    if (entry.data.load() == nullptr)
     {
         entry.data = new SingletonData;
         entry.deleter = &DeleteData;
@@ -139,7 +159,7 @@ void Singleton<T>::CreateData(SingletonEntry& entry, bool create)
         // The data must be gone before this module is, whichever module makes the instance.
         RegisterFinalizer();
     }
-    CreateSingletonData(*static_cast<SingletonData*>(entry.data));
+    CreateSingletonData(*static_cast<SingletonData*>(entry.data.load()));
 }
 
 template <class T>
@@ -162,7 +182,7 @@ void Singleton<T>::CreateSingletonData(SingletonData& data)
     if (data.instance.load() != nullptr)
         return;
 
-    DeleteInstance(data.instance.exchange(CreateInstance()));
+    data.deleteInstance(data.instance.exchange(data.createInstance()));
     RegisterFinalizer();
 }
 

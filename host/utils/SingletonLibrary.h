@@ -4,6 +4,7 @@
 #include "host/utils/SafeFunction.h"
 #include "host/utils/ThreadLock.h"
 
+#include <atomic>
 #include <typeindex>
 
 namespace OvxUtils
@@ -15,8 +16,12 @@ struct SingletonEntry
     using Deleter = void (*)(void* data);
     using Finalizer = void (*)();
 
-    ThreadLock lock;               ///< Guards the fields below.
-    void* data = nullptr;          ///< The shared data, made by the first module that needed it; null before.
+    ThreadLock lock; ///< Held while the data is being made.
+
+    /// The shared data, made by the first module that needed it; null before, and again after it was taken
+    /// away.
+    std::atomic<void*> data = nullptr;
+
     Deleter deleter = nullptr;     ///< Ends `data`; code of the module that made it.
     Finalizer finalizer = nullptr; ///< The module that made `data`, named by the address of its finaliser.
 };
@@ -27,16 +32,22 @@ struct SingletonEntry
 class STYLEPROPERTIES_HOST_API SingletonLibrary
 {
 public:
-    /// Fills an entry. Called under a WriteLock on the entry's lock; with `create` false it makes nothing.
+    /// Fills an entry that holds no data. Called under a WriteLock on the entry's lock; with `create` false
+    /// it makes nothing.
     using CreateData = void (*)(SingletonEntry& entry, bool create);
 
     /// Gives the entry for `type` and remembers `withdrawn`, which is called once when the entry is taken
     /// away.
     ///
-    /// Calls `createData` for the entry. With `create` false, an entry that is missing or holds no data is
-    /// not made, nothing is remembered, and null is returned.
+    /// An entry without data is filled by `createData`, on one thread while others wait for it; when that
+    /// throws before there is data, the next who asks tries again. With `create` false, an entry that is
+    /// missing or holds no data is not made, nothing is called or remembered, and null is returned at once.
     ///
-    /// @returns the entry, owned by the registry and valid until `withdrawn` was called; may be null.
+    /// `withdrawn` must not call the registry. It must be removed with RemoveCallback before its module goes.
+    ///
+    /// @returns the entry, owned by the registry; may be null. It is never freed: after it was taken away, it
+    /// holds no
+    ///          data until a later call fills it again.
     static SingletonEntry* GetEntryForType(std::type_index type, CreateData createData, bool create,
                                            const basic_safe_function<void()>& withdrawn);
 
@@ -47,6 +58,9 @@ public:
     ///
     /// Every entry whose data that module made is taken away: the remembered callbacks are called, so that no
     /// module keeps a pointer to it, then the data is ended with its deleter. Other entries stay.
+    ///
+    /// Who still uses the data on another thread meanwhile uses what is being destroyed: a module is unloaded
+    /// when no one is inside what it made.
     static void NotifySingletonModuleUnloaded(SingletonEntry::Finalizer moduleFinalizer);
 };
 
