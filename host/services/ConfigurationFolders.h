@@ -3,8 +3,8 @@
 #include "host/Export.h"
 #include "host/utils/OvxStringT.h"
 
-/// The folder of the user's own configuration.
+/// The folder of the user's own configuration. It need not exist; empty when there is none.
 [[nodiscard]] STYLEPROPERTIES_HOST_API OvxStringT INIGetCustomDir();
 
-/// The folder of the suite below the user's documents.
+/// The folder of the suite below the user's documents. It need not exist; empty when there is none.
 [[nodiscard]] STYLEPROPERTIES_HOST_API OvxStringT GetUserDocumentsOrvexSuiteDir();

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/Export.h"
+#include "host/style_model/Style.h"
+#include "host/style_model/StyleSheet.h"
+#include "host/utils/OvxStringT.h"
+
+#include <vector>
+
+namespace ReferenceHost
+{
+
+/// The styles of an open document, whatever kind of document it is.
+///
+/// Everything returned is borrowed from the document and lives as long as it does.
+class STYLEPROPERTIES_HOST_API IDocumentStyles
+{
+public:
+    /// The named styles of the document; may be null.
+    virtual Styles::StyleSheet* GetStyleSheet() = 0;
+
+    /// The document's default styles, in order; none of them null.
+    virtual std::vector<Styles::Style*> GetDefaultStyles() = 0;
+
+    /// Tells whether the document keeps a named style from people.
+    [[nodiscard]] virtual bool IsHidden(const OvxStringT& styleName) const = 0;
+
+    /// What people see for a named style; a name that the document does not know comes back as it is.
+    [[nodiscard]] virtual OvxStringT GetDisplayName(const OvxStringT& styleName) const = 0;
+
+protected:
+    ~IDocumentStyles() = default;
+};
+
+} // namespace ReferenceHost
