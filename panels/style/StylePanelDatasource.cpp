@@ -1,0 +1,68 @@
+// The style panel and its factory.
+
+#include "panels/style/StylePanelDatasource.h"
+
+#include "host/style_model/CategoryNames.h"
+#include "panels/PanelRegistration.h"
+
+#include <array>
+#include <set>
+
+using namespace Styles;
+using OvxUtils::Any;
+
+namespace
+{
+
+constexpr std::array kRows{
+    Panels::PanelRow{L"StyleParent", L"style"},
+};
+
+const Panels::PanelRegistration<StylePanelDatasource> registration;
+
+} // namespace
+
+void StylePanelDatasource::FillDataSourceMap()
+{
+    RegisterRows(kRows);
+}
+
+PropertyKey StylePanelDatasource::GetCategory() const
+{
+    return StyleCategoryName;
+}
+
+PropertyPaths StylePanelDatasource::GetStyleCategoryProperties(Style* style) const
+{
+    PropertyPaths paths;
+    for (const PropertyKey& category : {FillStyleCategoryName, OutlineStyleCategoryName,
+                                        GetParagraphStyleCategoryName(), GetCharacterStyleCategoryName()})
+    {
+        const Style* substyle = style->GetSubstyle(category, false);
+        if (substyle == nullptr)
+            continue;
+        for (const PropertyPath& path : MakePaths(Styles::GetStyleCategoryProperties(*substyle)))
+            paths.push_back(MakePath(category, path));
+    }
+    return paths;
+}
+
+Any StylePanelDatasource::ReadValue(Style& categoryStyle, const PropertyPath& /*path*/) const
+{
+    const Style* parent = categoryStyle.GetParent();
+    if (parent == nullptr)
+        return Any();
+    const OvxStringT name = Panels::FindSheetName(*parent);
+    return name.empty() ? Any() : Any(name);
+}
+
+Panels::ValueOrigin StylePanelDatasource::ReadOrigin(Style& categoryStyle, const PropertyPath& path) const
+{
+    using Kind = Panels::ValueOrigin::Kind;
+    return {ReadValue(categoryStyle, path).IsEmpty() ? Kind::Unset : Kind::Local, nullptr};
+}
+
+Any StylePanelDatasource::ReadParentValue(Style& /*categoryStyle*/, const PropertyPath& /*path*/) const
+{
+    return Any();
+}
