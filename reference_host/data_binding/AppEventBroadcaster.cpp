@@ -1,6 +1,6 @@
 #include "host/data_binding/IAppEventBroadcaster.h"
-#include "reference_host/data_binding/Immortal.h"
 #include "reference_host/data_binding/UiThread.h"
+#include "reference_host/utils/Immortal.h"
 
 // Nothing here is computed ahead of an event that would have to be brought up to date first.
 void AppUpdatePolicy::PreNotify(const OvxStringT& /*name*/)
@@ -16,5 +16,5 @@ template <>
 IAppEventBroadcaster& OvxUtils::Singleton<IAppEventBroadcaster>::GetInstance()
 {
     static ReferenceHost::Immortal<IAppEventBroadcaster> broadcaster;
-    return broadcaster.Get();
+    return *broadcaster;
 }

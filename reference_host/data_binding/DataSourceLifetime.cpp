@@ -1,6 +1,6 @@
 #include "reference_host/data_binding/DataSourceLifetime.h"
 
-#include "reference_host/data_binding/Immortal.h"
+#include "reference_host/utils/Immortal.h"
 
 #include <algorithm>
 #include <deque>
@@ -22,7 +22,7 @@ struct Lifetimes
 Lifetimes& GetLifetimes()
 {
     static Immortal<Lifetimes> lifetimes;
-    return lifetimes.Get();
+    return *lifetimes;
 }
 
 constinit thread_local int notificationDepth = 0;

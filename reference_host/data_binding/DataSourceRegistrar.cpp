@@ -1,5 +1,5 @@
 #include "host/data_binding/IDataSourceRegistrar.h"
-#include "reference_host/data_binding/Immortal.h"
+#include "reference_host/utils/Immortal.h"
 
 #include <algorithm>
 
@@ -38,5 +38,5 @@ private:
 IDataSourceRegistrar& IDataSourceRegistrar::GetInstance()
 {
     static ReferenceHost::Immortal<DataSourceRegistrar> registrar;
-    return registrar.Get();
+    return *registrar;
 }

@@ -1,9 +1,9 @@
 #include "reference_host/resources/Language.h"
 
 #include "host/resources/Resources.h"
-#include "reference_host/data_binding/Immortal.h"
 #include "reference_host/resources/BuiltInCatalogues.h"
 #include "reference_host/resources/Catalogue.h"
+#include "reference_host/utils/Immortal.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -31,7 +31,7 @@ struct Texts
 Texts& GetTexts()
 {
     static Immortal<Texts> texts;
-    return texts.Get();
+    return *texts;
 }
 
 } // namespace
