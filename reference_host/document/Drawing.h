@@ -4,12 +4,12 @@
 #include "host/colour/CLR_COLORSPEC.h"
 #include "host/style_model/PropertyKey.h"
 #include "host/style_model/Style.h"
-#include "host/style_model/StyleSheet.h"
 #include "host/utils/OvxStringT.h"
 #include "reference_host/document/DocumentError.h"
 #include "reference_host/document/DrawingObject.h"
 #include "reference_host/document/DrawingPage.h"
 #include "reference_host/document/PropertyMapping.h"
+#include "reference_host/style_model/NamedStyleSheet.h"
 
 #include <deque>
 #include <filesystem>
@@ -58,7 +58,8 @@ public:
                                                        std::vector<std::string>& warnings,
                                                        const std::vector<PropertyMapping>& extensions = {});
 
-    explicit Drawing(std::unique_ptr<DrawingData> data);
+    /// Made by Open().
+    explicit Drawing(std::unique_ptr<DrawingData> contents);
     Drawing(const Drawing&) = delete;
     Drawing& operator=(const Drawing&) = delete;
     ~Drawing();
@@ -77,11 +78,9 @@ public:
     /// All objects and groups of all pages in document order, a group before its members.
     [[nodiscard]] std::deque<DrawingObject>& GetObjects() noexcept;
 
-    /// The named styles, by their decoded names ("Mid One", not "Mid_20_One"), in the order of the file.
-    [[nodiscard]] Styles::StyleSheet& GetStyleSheet() noexcept;
-
-    /// The names of all named styles of all categories, in the order of the file.
-    [[nodiscard]] const std::vector<OvxStringT>& GetStyleNames() const noexcept;
+    /// The named styles of all categories, by their decoded names ("Mid One", not "Mid_20_One"), in the order
+    /// of the file.
+    [[nodiscard]] NamedStyleSheet& GetStyleSheet() noexcept;
 
     /// What people see for a named style: the display name that the file gives, else the name itself. A name
     /// that is not in the sheet comes back as it is.

@@ -23,9 +23,9 @@ class ShapeReader;
 class STYLEPROPERTIES_HOST_API DrawingObject
 {
 public:
-    /// Made by the reader. `page` and `group` are borrowed; `group` is null directly on the page. `position`
+    /// Made by the reader. Page and group are borrowed, the group null directly on the page; the position
     /// counts from 1 within the group or the page.
-    DrawingObject(DrawingPage& page, DrawingObject* group, std::size_t position);
+    DrawingObject(DrawingPage& itsPage, DrawingObject* itsGroup, std::size_t itsPosition);
 
     DrawingObject(const DrawingObject&) = delete;
     DrawingObject& operator=(const DrawingObject&) = delete;

@@ -233,6 +233,8 @@ PropertyTable::PropertyTable(const std::vector<PropertyMapping>& extensions) : r
         if (std::ranges::find(categories, rows[place].category) == categories.end())
             categories.push_back(rows[place].category);
         rowsByAttribute[rows[place].attribute].push_back(place);
+        firstRows.push_back(
+            static_cast<std::size_t>(FindRow(rows[place].category, rows[place].key) - rows.data()));
     }
 }
 

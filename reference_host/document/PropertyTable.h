@@ -38,12 +38,16 @@ public:
     /// The places of the rows whose attribute has a local name, in order; an empty list without any.
     [[nodiscard]] const std::vector<std::size_t>& FindRows(std::string_view attribute) const;
 
+    /// The place of the row that counts most for the property of the row at `place`.
+    [[nodiscard]] std::size_t GetFirstRow(std::size_t place) const { return firstRows[place]; }
+
     /// The row of a property that counts most; null for a property that no row holds.
     [[nodiscard]] const PropertyMapping* FindRow(Styles::PropertyKey category, Styles::PropertyKey key) const;
 
 private:
     std::vector<PropertyMapping> rows;
     std::vector<Styles::PropertyKey> categories;
+    std::vector<std::size_t> firstRows; ///< For each row, the place of the first one of its property.
     std::unordered_map<std::string_view, std::vector<std::size_t>> rowsByAttribute; ///< Keys lie in the rows.
 };
 

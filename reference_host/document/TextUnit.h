@@ -27,9 +27,9 @@ public:
         Run
     };
 
-    /// Made by the reader. `object` and `styles` are borrowed and outlive the unit; `cascade` names its
-    /// styles there.
-    TextUnit(Kind kind, DrawingObject& object, CascadeStyles& styles, std::size_t cascade);
+    /// Made by the reader. Object and styles are borrowed and outlive the unit; the cascade is a number of
+    /// those styles.
+    TextUnit(Kind itsKind, DrawingObject& itsObject, CascadeStyles& itsStyles, std::size_t itsCascade);
 
     [[nodiscard]] Kind GetKind() const noexcept { return kind; }
 

@@ -1,0 +1,88 @@
+#include "reference_host/document/CascadeStyles.h"
+
+#include "reference_host/style_model/StyleHosting.h"
+
+#include "host/style_model/CategoryNames.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+std::size_t HashOf(OwnValues::Scope scope, const Styles::Style* parent,
+                   std::span<const StyleRecord* const> levels)
+{
+    // The factor spreads addresses, which differ in few bits.
+    constexpr std::size_t kFactor = 0x9E3779B97F4A7C15ULL;
+    std::size_t hash = std::hash<const void*>()(parent) + static_cast<std::size_t>(scope);
+    for (const StyleRecord* const level : levels)
+        hash = (hash ^ (hash >> 29U)) * kFactor + std::hash<const void*>()(level);
+    return hash * kFactor;
+}
+
+} // namespace
+
+CascadeStyles::CascadeStyles(const PropertyTable& properties, Styles::Style& defaultStyle)
+    : table(properties), defaults(defaultStyle)
+{
+}
+
+std::size_t CascadeStyles::Intern(OwnValues::Scope scope, Styles::Style* parent,
+                                  std::span<const StyleRecord* const> levels)
+{
+    const std::size_t hash = HashOf(scope, parent, levels);
+    const auto [first, last] = numbersByHash.equal_range(hash);
+    const auto same = std::find_if(first, last,
+                                   [&](const auto& entry)
+                                   {
+                                       const Cascade& cascade = cascades[entry.second];
+                                       return cascade.scope == scope && cascade.parent == parent &&
+                                              std::ranges::equal(cascade.levels, levels);
+                                   });
+    if (same != last)
+    {
+        ++cascades[same->second].uses;
+        return same->second;
+    }
+    const std::size_t number = cascades.size();
+    cascades.push_back({scope, parent, {levels.begin(), levels.end()}, 1, nullptr});
+    numbersByHash.emplace(hash, number);
+    return number;
+}
+
+std::unique_ptr<Styles::Style> CascadeStyles::Make(std::size_t number)
+{
+    Cascade& cascade = cascades[number];
+    if (cascade.uses == 1)
+        return Build(cascade);
+    if (cascade.prototype == nullptr)
+        cascade.prototype = Build(cascade);
+    return std::make_unique<Styles::Style>(*cascade.prototype);
+}
+
+std::unique_ptr<Styles::Style> CascadeStyles::Build(const Cascade& cascade) const
+{
+    std::unique_ptr<Styles::Style> style = MakeWholeStyle(cascade.parent, table);
+    SetDefaultStyle(*style, &defaults);
+    OwnValues values(table, cascade.scope);
+    for (const StyleRecord* const level : cascade.levels)
+        values.Add(*level);
+    // A percentage of nothing was reported with the style that it stands in, if nothing at all can be
+    // inherited there.
+    values.WriteTo(*style);
+    return style;
+}
+
+std::unique_ptr<Styles::Style> MakeWholeStyle(Styles::Style* parent, const PropertyTable& table)
+{
+    auto style = std::make_unique<Styles::Style>(parent, Styles::StyleCategoryName);
+    for (const Styles::PropertyKey& category : table.GetCategories())
+        style->GetSubstyleAndCreateIfMissing(category, category);
+    return style;
+}
+
+} // namespace ReferenceHost

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "reference_host/document/CascadeStyles.h"
+#include "reference_host/document/Drawing.h"
+#include "reference_host/document/DrawingFile.h"
+#include "reference_host/document/NamedStyles.h"
+#include "reference_host/document/PropertyTable.h"
+#include "reference_host/document/StyleRecord.h"
+#include "reference_host/style_model/NamedStyleSheet.h"
+
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+/// The insides of a drawing. Later fields use earlier ones and go before them.
+struct DrawingData
+{
+    DrawingData(const std::filesystem::path& drawing, const std::vector<PropertyMapping>& extensions)
+        : path(drawing),
+          table(extensions),
+          defaultStyle(MakeWholeStyle(nullptr, table)),
+          cascades(table, *defaultStyle)
+    {
+    }
+
+    std::filesystem::path path;
+    DrawingFile file; ///< The bytes as they were read: edits are spliced into them.
+    PropertyTable table;
+    std::vector<PaletteEntry> palette;
+    StyleCatalogue catalogue;
+    std::unique_ptr<Styles::Style> defaultStyle; ///< Never null.
+    NamedStyleSheet sheet;
+    StyleAppearances appearances;
+    CascadeStyles cascades;
+    std::vector<DrawingPage> pages;
+    std::deque<DrawingObject> objects;
+};
+
+} // namespace ReferenceHost

@@ -1,0 +1,168 @@
+#include "reference_host/document/DrawingReader.h"
+
+#include "reference_host/document/DocumentKind.h"
+#include "reference_host/document/OdfNamespaces.h"
+#include "reference_host/document/ShapeReader.h"
+#include "reference_host/document/XmlText.h"
+#include "reference_host/document/XmlTree.h"
+
+#include "host/utils/Utf8.h"
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+constexpr XmlName kBody{Odf::kOffice, "body"};
+constexpr XmlName kDrawing{Odf::kOffice, "drawing"};
+constexpr XmlName kStyles{Odf::kOffice, "styles"};
+constexpr XmlName kAutomaticStyles{Odf::kOffice, "automatic-styles"};
+constexpr XmlName kMeta{Odf::kOffice, "meta"};
+
+/// Calls `visit` for each child element of `parent` that is called `name`, while its scope is in force.
+template <class Visitor>
+void ForEachChild(pugi::xml_node parent, XmlNames& names, const XmlName& name, const Visitor& visit)
+{
+    for (const pugi::xml_node child : parent.children())
+    {
+        const XmlNames::Scope scope(names, child);
+        if (names.Of(child) == name)
+            visit(child);
+    }
+}
+
+} // namespace
+
+DrawingReader::DrawingReader(DrawingData& target, std::vector<std::string>& warningLines)
+    : data(target), warnings(warningLines)
+{
+}
+
+void DrawingReader::Read()
+{
+    data.file = ReadDrawingFile(data.path);
+    const bool isFlat = data.file.form == DrawingForm::Flat;
+    const Part content = isFlat ? Parse(data.file.bytes, nullptr) : Parse(data.file.content, "content.xml");
+    const Part packageStyles = isFlat ? Part() : Parse(data.file.styles, "styles.xml");
+    const Part packageMeta = isFlat ? Part() : Parse(data.file.meta, "meta.xml");
+    RequireDrawing(content);
+    ReadPalette(isFlat ? content : packageMeta);
+
+    StyleReader reader(data.table, colours, data.catalogue, warnings);
+    ReadStyles(reader, isFlat ? content : packageStyles, content);
+    FillDefaultStyle(*data.defaultStyle, reader.GetDefault(), data.table, warnings);
+    NamedStyleBuilder(data.table, *data.defaultStyle, data.sheet, data.appearances, warnings)
+        .Build(data.catalogue);
+    ReadShapes(content);
+}
+
+DrawingReader::Part DrawingReader::Parse(std::string_view text, const char* entry) const
+{
+    Part part;
+    part.label = entry == nullptr ? data.file.label : data.file.label + ", " + entry;
+    if (entry == nullptr || !text.empty())
+        part.tree = ParseXml(text, part.label);
+    return part;
+}
+
+void DrawingReader::RequireDrawing(const Part& content)
+{
+    const bool isFlat = data.file.form == DrawingForm::Flat;
+    const pugi::xml_node root = content.GetRoot();
+    if (root.empty())
+        throw DocumentError("the entry is empty", content.label, "office:document-content");
+    XmlNames names;
+    const XmlNames::Scope scope(names, root);
+    const XmlName expected{Odf::kOffice, isFlat ? "document" : "document-content"};
+    if (names.Of(root) != expected)
+        FailNotADrawing(std::string("XML with the root element <") + root.name() + ">", content.label);
+    const std::string_view mediaType = names.Attribute(root, {Odf::kOffice, "mimetype"});
+    if (isFlat && !mediaType.empty())
+        data.file.isTemplate = IsTemplateMediaType(mediaType, content.label);
+
+    std::string_view bodyElement;
+    ForEachChild(root, names, kBody,
+                 [&](pugi::xml_node body)
+                 {
+                     for (const pugi::xml_node element : body.children())
+                     {
+                         const XmlNames::Scope elementScope(names, element);
+                         if (names.Of(element).uri == Odf::kOffice && bodyElement.empty())
+                             bodyElement = names.Of(element).local;
+                     }
+                 });
+    if (bodyElement.empty())
+        throw DocumentError("there is no body", content.label, "<office:body> with <office:drawing>");
+    RequireDrawingBody(bodyElement, content.label);
+}
+
+void DrawingReader::ReadPalette(const Part& part)
+{
+    XmlNames names;
+    const pugi::xml_node root = part.GetRoot();
+    const XmlNames::Scope scope(names, root);
+    ForEachChild(root, names, kMeta,
+                 [&](pugi::xml_node meta)
+                 {
+                     ForEachChild(meta, names, {Odf::kMeta, "user-defined"},
+                                  [&](pugi::xml_node entry) { ReadPaletteEntry(entry, names); });
+                 });
+}
+
+void DrawingReader::ReadPaletteEntry(pugi::xml_node element, XmlNames& names)
+{
+    const std::string_view key = names.Attribute(element, {Odf::kMeta, "name"});
+    if (!key.starts_with(OwnMarkup::kPalettePrefix))
+        return;
+    const std::string name(key.substr(OwnMarkup::kPalettePrefix.size()));
+    const std::string_view text = element.text().get();
+    const std::optional<CLR_COLORSPEC::Rgb> look = ParseColour(TrimXmlBlanks(text));
+    if (!look || name.empty())
+        return warnings.Add("palette entry \"" + name + "\": \"" + std::string(text) +
+                            "\" is no colour; it was left out");
+    if (!colours.emplace(name, *look).second)
+        return warnings.Add("palette entry \"" + name + "\": it is there twice; the first one counts");
+    data.palette.push_back({OvxUtils::FromUtf8(name), *look});
+}
+
+void DrawingReader::ReadStyles(StyleReader& reader, const Part& styles, const Part& content)
+{
+    const auto readContainers = [&reader](const Part& part, const XmlName& container, StyleOrigin origin)
+    {
+        XmlNames names;
+        const XmlNames::Scope scope(names, part.GetRoot());
+        ForEachChild(part.GetRoot(), names, container,
+                     [&](pugi::xml_node element) { reader.ReadStyles(element, names, origin); });
+    };
+    const auto readDeclarations = [&reader](const Part& part)
+    {
+        XmlNames names;
+        const XmlNames::Scope scope(names, part.GetRoot());
+        reader.ReadDeclarations(part.GetRoot(), names);
+    };
+    readDeclarations(styles);
+    readContainers(styles, kStyles, StyleOrigin::Named);
+    // A package declares fonts for each of its texts; those of the content stand for what shapes use. The
+    // automatic styles beside the named ones belong to master pages.
+    if (&styles != &content)
+        readDeclarations(content);
+    readContainers(content, kAutomaticStyles, StyleOrigin::Automatic);
+}
+
+void DrawingReader::ReadShapes(const Part& content)
+{
+    XmlNames names;
+    const pugi::xml_node root = content.GetRoot();
+    const XmlNames::Scope scope(names, root);
+    ShapeReader reader(data.catalogue, data.cascades, names, warnings);
+    ForEachChild(root, names, kBody,
+                 [&](pugi::xml_node body)
+                 {
+                     ForEachChild(body, names, kDrawing,
+                                  [&](pugi::xml_node drawing)
+                                  { reader.Read(drawing, data.pages, data.objects); });
+                 });
+}
+
+} // namespace ReferenceHost

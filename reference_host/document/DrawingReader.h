@@ -1,0 +1,53 @@
+#pragma once
+
+#include "reference_host/document/DrawingData.h"
+#include "reference_host/document/StyleReader.h"
+#include "reference_host/document/Warnings.h"
+#include "reference_host/document/XmlNames.h"
+
+#include <pugixml.hpp>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+/// Reads one drawing into its data.
+class DrawingReader
+{
+public:
+    /// Borrows both; `target` holds nothing of the file yet.
+    DrawingReader(DrawingData& target, std::vector<std::string>& warningLines);
+
+    /// @throws DocumentError
+    void Read();
+
+private:
+    /// One XML text of the drawing: a flat file has one, a package up to three. Without a text all is empty.
+    struct Part
+    {
+        std::string label;
+        std::unique_ptr<pugi::xml_document> tree;
+
+        [[nodiscard]] pugi::xml_node GetRoot() const
+        {
+            return tree == nullptr ? pugi::xml_node() : tree->document_element();
+        }
+    };
+
+    [[nodiscard]] Part Parse(std::string_view text, const char* entry) const;
+    void RequireDrawing(const Part& content);
+    void ReadPalette(const Part& part);
+    void ReadPaletteEntry(pugi::xml_node element, XmlNames& names);
+    void ReadStyles(StyleReader& reader, const Part& styles, const Part& content);
+    void ReadShapes(const Part& content);
+
+    DrawingData& data;
+    Warnings warnings;
+    PaletteColours colours;
+};
+
+} // namespace ReferenceHost

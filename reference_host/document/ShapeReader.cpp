@@ -1,0 +1,159 @@
+#include "reference_host/document/ShapeReader.h"
+
+#include "reference_host/document/OdfNamespaces.h"
+
+#include "host/utils/Utf8.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+/// An element that is an object, and what its kind is called.
+struct Kind
+{
+    XmlName element;
+    const wchar_t* name;
+};
+
+constexpr std::array<Kind, 17> kKinds{{{{Odf::kDraw, "custom-shape"}, L"custom-shape"},
+                                       {{Odf::kDraw, "rect"}, L"rect"},
+                                       {{Odf::kDraw, "frame"}, L"frame"},
+                                       {{Odf::kDraw, "line"}, L"line"},
+                                       {{Odf::kDraw, "connector"}, L"connector"},
+                                       {{Odf::kDraw, "ellipse"}, L"ellipse"},
+                                       {{Odf::kDraw, "circle"}, L"circle"},
+                                       {{Odf::kDraw, "path"}, L"path"},
+                                       {{Odf::kDraw, "polygon"}, L"polygon"},
+                                       {{Odf::kDraw, "polyline"}, L"polyline"},
+                                       {{Odf::kDraw, "regular-polygon"}, L"regular-polygon"},
+                                       {{Odf::kDraw, "measure"}, L"measure"},
+                                       {{Odf::kDraw, "caption"}, L"caption"},
+                                       {{Odf::kDraw, "control"}, L"control"},
+                                       {{Odf::kDraw, "page-thumbnail"}, L"page-thumbnail"},
+                                       {{Odf::kDraw, "g"}, L"group"},
+                                       {{Odf::kDr3d, "scene"}, L"scene"}}};
+
+constexpr XmlName kGroup{Odf::kDraw, "g"};
+constexpr XmlName kLink{Odf::kDraw, "a"};
+constexpr XmlName kPage{Odf::kDraw, "page"};
+
+} // namespace
+
+ShapeReader::ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, XmlNames& xmlNames,
+                         Warnings& reports)
+    : catalogue(styles),
+      cascades(cascadeStyles),
+      names(xmlNames),
+      warnings(reports),
+      text(styles, cascadeStyles, xmlNames, reports)
+{
+    const StyleRecord* const record = catalogue.FindNamed(StyleFamily::Graphic, "standard");
+    standard = record != nullptr && record->ownCategory.empty() ? record->style : nullptr;
+}
+
+void ShapeReader::Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages,
+                       std::deque<DrawingObject>& objects)
+{
+    allObjects = &objects;
+    std::vector<pugi::xml_node> elements;
+    for (const pugi::xml_node element : drawing.children())
+    {
+        const XmlNames::Scope scope(names, element);
+        if (names.Of(element) == kPage)
+            elements.push_back(element);
+    }
+    // Objects point to their pages.
+    pages.resize(elements.size());
+    for (std::size_t index = 0; index < elements.size(); ++index)
+    {
+        const XmlNames::Scope scope(names, elements[index]);
+        DrawingPage& page = pages[index];
+        page.number = index + 1;
+        page.name = OvxUtils::FromUtf8(names.Attribute(elements[index], {Odf::kDraw, "name"}));
+        ReadMembers(elements[index], {&page, nullptr, &page.objects});
+    }
+}
+
+void ShapeReader::ReadMembers(pugi::xml_node container, const Place& place)
+{
+    for (const pugi::xml_node element : container.children())
+    {
+        if (element.type() == pugi::node_element)
+            ReadMember(element, place);
+    }
+}
+
+void ShapeReader::ReadMember(pugi::xml_node element, const Place& place)
+{
+    const XmlNames::Scope scope(names, element);
+    const XmlName name = names.Of(element);
+    if (name == kLink)
+        return ReadMembers(element, place);
+    const auto* const kind = std::ranges::find(kKinds, name, &Kind::element);
+    if (kind == kKinds.end())
+        return;
+    DrawingObject& object = AddObject(element, place);
+    object.kind = kind->name;
+    object.isGroup = name == kGroup;
+    if (object.isGroup)
+        ReadMembers(element, {place.page, &object, &object.members});
+    else
+        ReadStyle(element, object);
+}
+
+DrawingObject& ShapeReader::AddObject(pugi::xml_node element, const Place& place)
+{
+    DrawingObject& object = allObjects->emplace_back(*place.page, place.group, place.members->size() + 1);
+    place.members->push_back(&object);
+    object.name = OvxUtils::FromUtf8(names.Attribute(element, {Odf::kDraw, "name"}));
+    return object;
+}
+
+void ShapeReader::ReadStyle(pugi::xml_node element, DrawingObject& object)
+{
+    const std::string_view styleName = names.Attribute(element, {Odf::kDraw, "style-name"});
+    const StyleRecord* const record = catalogue.Find(StyleFamily::Graphic, styleName);
+    if (record == nullptr && !styleName.empty())
+    {
+        warnings.Add("style \"" + ReadableName(styleName) +
+                     "\": shapes refer to it, but it does not exist; they take \"standard\"");
+    }
+    Styles::Style* parent = standard;
+    StyleLevels levels;
+    AddTextStyle(levels, catalogue, StyleFamily::Paragraph,
+                 names.Attribute(element, {Odf::kDraw, "text-style-name"}), warnings);
+    const std::size_t textLevels = levels.size();
+    if (record != nullptr && record->origin == StyleOrigin::Automatic)
+    {
+        levels.push_back(record);
+        parent = FindParent(*record);
+    }
+    else if (record != nullptr && record->ownCategory.empty())
+        parent = record->style;
+
+    text.Read(element, object, parent, levels);
+    // Where there is text, its units carry what the text style sets; else the shape stands for itself.
+    if (!object.paragraphs.empty())
+        levels.erase(levels.begin(), levels.begin() + static_cast<std::ptrdiff_t>(textLevels));
+    object.styles = &cascades;
+    object.cascade = cascades.Intern(OwnValues::Scope::All, parent, levels);
+}
+
+Styles::Style* ShapeReader::FindParent(const StyleRecord& automatic)
+{
+    if (automatic.parentName.empty())
+        return standard;
+    const StyleRecord* const named = catalogue.FindNamed(StyleFamily::Graphic, automatic.parentName);
+    if (named != nullptr && named->ownCategory.empty())
+        return named->style;
+    warnings.AddAbout(automatic, "its parent \"" + ReadableName(automatic.parentName) +
+                                     "\" does not exist; its shapes take \"standard\"");
+    return standard;
+}
+
+} // namespace ReferenceHost

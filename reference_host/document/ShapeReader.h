@@ -1,0 +1,55 @@
+#pragma once
+
+#include "reference_host/document/CascadeStyles.h"
+#include "reference_host/document/DrawingObject.h"
+#include "reference_host/document/DrawingPage.h"
+#include "reference_host/document/StyleRecord.h"
+#include "reference_host/document/TextReader.h"
+#include "reference_host/document/Warnings.h"
+#include "reference_host/document/XmlNames.h"
+
+#include "host/style_model/Style.h"
+
+#include <pugixml.hpp>
+
+#include <deque>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+/// Reads the pages of a drawing with their shapes and groups.
+class ShapeReader
+{
+public:
+    /// Borrows everything. The named styles are complete.
+    ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, XmlNames& xmlNames, Warnings& reports);
+
+    /// Reads all pages in `drawing`, the element office:drawing, whose scope is in force.
+    void Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages, std::deque<DrawingObject>& objects);
+
+private:
+    /// Where shapes are added: to a page or to a group on it.
+    struct Place
+    {
+        DrawingPage* page;
+        DrawingObject* group; ///< Null directly on the page.
+        std::vector<DrawingObject*>* members;
+    };
+
+    void ReadMembers(pugi::xml_node container, const Place& place);
+    void ReadMember(pugi::xml_node element, const Place& place);
+    DrawingObject& AddObject(pugi::xml_node element, const Place& place);
+    void ReadStyle(pugi::xml_node element, DrawingObject& object);
+    [[nodiscard]] Styles::Style* FindParent(const StyleRecord& automatic);
+
+    StyleCatalogue& catalogue;
+    CascadeStyles& cascades;
+    XmlNames& names;
+    Warnings& warnings;
+    TextReader text;
+    std::deque<DrawingObject>* allObjects = nullptr;
+    Styles::Style* standard; ///< What shapes take that have no other style; null when the drawing has none.
+};
+
+} // namespace ReferenceHost

@@ -1,0 +1,101 @@
+#include "reference_host/document/StyleParents.h"
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+enum class Visit
+{
+    Underway,
+    Done
+};
+
+/// What a style calls its parent: a style of one category has a second one, which counts here.
+const std::string& ParentNameOf(const StyleRecord& record)
+{
+    return record.ownCategory.empty() ? record.parentName : record.ownParentName;
+}
+
+/// Automatic graphic styles belong to shapes, which have a rule of their own for missing parents.
+bool HasParentHere(const StyleRecord& record)
+{
+    const bool isOfAShape = record.family == StyleFamily::Graphic && record.origin == StyleOrigin::Automatic;
+    return !isOfAShape && !ParentNameOf(record).empty();
+}
+
+StyleRecord* FindParent(StyleCatalogue& catalogue, const StyleRecord& record)
+{
+    StyleRecord* const parent = catalogue.FindNamed(record.family, ParentNameOf(record));
+    return parent != nullptr && parent->ownCategory == record.ownCategory ? parent : nullptr;
+}
+
+/// Follows parents from one style, and cuts the link that leads back to where the walk has been.
+class CycleCutter
+{
+public:
+    CycleCutter(std::vector<StyleRecord*>& orderedStyles, Warnings& reports)
+        : ordered(orderedStyles), warnings(reports)
+    {
+    }
+
+    void Follow(StyleRecord& first)
+    {
+        std::vector<StyleRecord*> way;
+        for (StyleRecord* record = &first;
+             record != nullptr && visits.try_emplace(record, Visit::Underway).second; record = record->parent)
+            way.push_back(record);
+        if (!way.empty())
+            Cut(*way.back());
+        for (auto record = way.rbegin(); record != way.rend(); ++record)
+        {
+            visits[*record] = Visit::Done;
+            if ((*record)->family == StyleFamily::Graphic && (*record)->origin == StyleOrigin::Named)
+                ordered.push_back(*record);
+        }
+    }
+
+private:
+    /// Cuts the parent of the last style of a walk when the walk has been there.
+    void Cut(StyleRecord& last)
+    {
+        const auto parent = visits.find(last.parent);
+        if (parent == visits.end() || parent->second != Visit::Underway)
+            return;
+        warnings.AddAbout(last, "its parent \"" + ReadableName(last.parent->name) +
+                                    "\" inherits from it; the cycle was cut here");
+        last.parent = nullptr;
+    }
+
+    std::vector<StyleRecord*>& ordered;
+    Warnings& warnings;
+    std::unordered_map<const StyleRecord*, Visit> visits;
+};
+
+} // namespace
+
+std::vector<StyleRecord*> LinkParents(StyleCatalogue& catalogue, Warnings& warnings)
+{
+    for (StyleRecord& record : catalogue.GetRecords())
+    {
+        if (!HasParentHere(record))
+            continue;
+        record.parent = FindParent(catalogue, record);
+        if (record.parent == nullptr)
+        {
+            warnings.AddAbout(record, "its parent \"" + ReadableName(ParentNameOf(record)) +
+                                          "\" does not exist; it was dropped");
+        }
+    }
+    std::vector<StyleRecord*> ordered;
+    CycleCutter cutter(ordered, warnings);
+    for (StyleRecord& record : catalogue.GetRecords())
+        cutter.Follow(record);
+    return ordered;
+}
+
+} // namespace ReferenceHost

@@ -1,0 +1,239 @@
+#include "reference_host/document/StyleReader.h"
+
+#include "reference_host/document/OdfNamespaces.h"
+#include "reference_host/document/StyleNames.h"
+#include "reference_host/document/XmlText.h"
+
+#include "host/style_model/CategoryNames.h"
+#include "host/utils/Utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+/// An element that defines names, and the kind that the PropertyTable calls them by.
+struct Definition
+{
+    XmlName element;
+    std::string_view kind;
+};
+
+constexpr std::array<Definition, 7> kDefinitions{{{{Odf::kDraw, "gradient"}, "gradient"},
+                                                  {{Odf::kSvg, "linearGradient"}, "gradient"},
+                                                  {{Odf::kSvg, "radialGradient"}, "gradient"},
+                                                  {{Odf::kDraw, "hatch"}, "hatch"},
+                                                  {{Odf::kDraw, "fill-image"}, "fill-image"},
+                                                  {{Odf::kDraw, "stroke-dash"}, "stroke-dash"},
+                                                  {{Odf::kDraw, "marker"}, "marker"}}};
+
+constexpr std::array<std::pair<std::string_view, StyleFamily>, 3> kFamilies{
+    {{"graphic", StyleFamily::Graphic}, {"paragraph", StyleFamily::Paragraph}, {"text", StyleFamily::Text}}};
+
+std::optional<StyleFamily> FindFamily(std::string_view name)
+{
+    const auto* const found =
+        std::ranges::find(kFamilies, name, &std::pair<std::string_view, StyleFamily>::first);
+    return found == kFamilies.end() ? std::nullopt : std::optional(found->second);
+}
+
+/// Tells whether styles of a family hold an element: each family adds one to those of the next.
+bool HoldsElement(StyleFamily family, PropertyElement element)
+{
+    return static_cast<int>(element) >= static_cast<int>(family);
+}
+
+std::size_t FindTextColourRow(const PropertyTable& table)
+{
+    const Styles::PropertyKey color(Styles::PooledString<Styles::StringPool>(L"color"));
+    const PropertyMapping* const row = table.FindRow(Styles::GetCharacterStyleCategoryName(), color);
+    return static_cast<std::size_t>(row - table.GetRows().data());
+}
+
+} // namespace
+
+StyleReader::StyleReader(const PropertyTable& properties, const PaletteColours& colours,
+                         StyleCatalogue& target, Warnings& reports)
+    : table(properties),
+      palette(colours),
+      catalogue(target),
+      warnings(reports),
+      textColourRow(FindTextColourRow(properties))
+{
+}
+
+void StyleReader::ReadDeclarations(pugi::xml_node root, XmlNames& names)
+{
+    for (const pugi::xml_node container : root.children())
+    {
+        const XmlNames::Scope scope(names, container);
+        const XmlName name = names.Of(container);
+        if (name != XmlName{Odf::kOffice, "font-face-decls"} && name != XmlName{Odf::kOffice, "styles"})
+            continue;
+        for (const pugi::xml_node element : container.children())
+            ReadDeclaration(element, names);
+    }
+}
+
+void StyleReader::ReadDeclaration(pugi::xml_node element, XmlNames& names)
+{
+    const XmlNames::Scope scope(names, element);
+    const XmlName name = names.Of(element);
+    if (name == XmlName{Odf::kStyle, "font-face"})
+    {
+        const std::string_view face = names.Attribute(element, {Odf::kStyle, "name"});
+        OvxStringT family = ParseFontFamily(names.Attribute(element, {Odf::kSvg, "font-family"}));
+        declared.fontFamilies[std::string(face)] =
+            family.empty() ? OvxUtils::FromUtf8(face) : std::move(family);
+        return;
+    }
+    const auto* const definition = std::ranges::find(kDefinitions, name, &Definition::element);
+    const std::string_view displayName = names.Attribute(element, {Odf::kDraw, "display-name"});
+    if (definition == kDefinitions.end() || displayName.empty())
+        return;
+    const std::string_view encoded = names.Attribute(element, {Odf::kDraw, "name"});
+    declared.definitions[DefinitionKey(definition->kind, encoded)] = OvxUtils::FromUtf8(displayName);
+}
+
+void StyleReader::ReadStyles(pugi::xml_node container, XmlNames& names, StyleOrigin origin)
+{
+    for (const pugi::xml_node element : container.children())
+    {
+        const XmlNames::Scope scope(names, element);
+        const XmlName name = names.Of(element);
+        if (name == XmlName{Odf::kStyle, "style"})
+            ReadStyle(element, names, origin);
+        else if (name == XmlName{Odf::kStyle, "default-style"})
+            ReadDefault(element, names);
+    }
+}
+
+void StyleReader::ReadDefault(pugi::xml_node element, XmlNames& names)
+{
+    if (defaults || names.Attribute(element, {Odf::kStyle, "family"}) != "graphic")
+        return;
+    StyleRecord record;
+    ReadProperties(element, names, record);
+    defaults = std::move(record);
+}
+
+void StyleReader::ReadStyle(pugi::xml_node element, XmlNames& names, StyleOrigin origin)
+{
+    const std::optional<StyleFamily> family = FindFamily(names.Attribute(element, {Odf::kStyle, "family"}));
+    if (!family)
+        return;
+    StyleRecord record;
+    record.family = *family;
+    record.origin = origin;
+    record.name = names.Attribute(element, {Odf::kStyle, "name"});
+    if (record.name.empty())
+        return warnings.Add("a style without a name was passed over");
+    record.parentName = names.Attribute(element, {Odf::kStyle, "parent-style-name"});
+    record.displayName = names.Attribute(element, {Odf::kStyle, "display-name"});
+    record.isHidden = names.Attribute(element, {Odf::kStyle, "hidden"}) == "true";
+    record.ownCategory = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kCategory});
+    record.ownParentName = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kParent});
+    ReadProperties(element, names, record);
+    const StyleRecord* const added = catalogue.Add(std::move(record));
+    if (added == nullptr)
+    {
+        warnings.Add("style \"" + ReadableName(names.Attribute(element, {Odf::kStyle, "name"})) +
+                     "\": it is there twice; the first one counts");
+    }
+}
+
+void StyleReader::ReadProperties(pugi::xml_node styleElement, XmlNames& names, StyleRecord& record)
+{
+    Found found;
+    for (const pugi::xml_node element : styleElement.children())
+    {
+        const XmlNames::Scope scope(names, element);
+        const XmlName name = names.Of(element);
+        const std::optional<PropertyElement> kind = FindPropertyElement(name.local);
+        if (name.uri != Odf::kStyle || !kind || !HoldsElement(record.family, *kind))
+            continue;
+        for (const pugi::xml_attribute attribute : element.attributes())
+            ReadAttribute(attribute, names.Of(attribute), *kind, record, found);
+    }
+    KeepFirstRows(found.values);
+    record.values = std::move(found.values);
+    for (const ColourLink& link : found.links)
+        LinkColour(link, record);
+}
+
+void StyleReader::ReadAttribute(pugi::xml_attribute attribute, XmlName name, PropertyElement element,
+                                const StyleRecord& record, Found& found)
+{
+    const std::string_view text = TrimXmlBlanks(attribute.value());
+    if (element == PropertyElement::Text && name == XmlName{Odf::kStyle, "use-window-font-color"})
+    {
+        if (text == "true")
+            found.values.push_back({textColourRow, {}, 0});
+        return;
+    }
+    if (name.uri == OwnMarkup::kNamespace && name.local.ends_with(OwnMarkup::kResourceSuffix))
+    {
+        const std::string_view colour =
+            name.local.substr(0, name.local.size() - OwnMarkup::kResourceSuffix.size());
+        found.links.push_back({element, colour, attribute.value()});
+        return;
+    }
+    for (const std::size_t place : table.FindRows(name.local))
+    {
+        const PropertyMapping& row = table.GetRows()[place];
+        if (row.element != element || row.namespaceUri != name.uri)
+            continue;
+        std::optional<ParsedValue> parsed = ParseProperty(row, attribute.value(), declared);
+        if (parsed)
+            found.values.push_back({place, std::move(parsed->value), parsed->percentOfInherited});
+        else if (text != "inherit")
+            warnings.AddAbout(record, "\"" + std::string(text) + "\" is no value for " + attribute.name() +
+                                          "; it counts as not set");
+    }
+}
+
+void StyleReader::KeepFirstRows(std::vector<StyleValue>& values) const
+{
+    // The colour of the window stands before a colour, and otherwise the earlier row before the later.
+    std::ranges::stable_sort(
+        values, {}, [](const StyleValue& value) { return std::pair(value.row, !value.IsWindowColour()); });
+    for (StyleValue& value : values)
+        value.row = table.GetFirstRow(value.row);
+    // An extension may hold further rows of a property that do not stand beside the others.
+    std::ranges::stable_sort(values, {}, &StyleValue::row);
+    const auto isSameProperty = [](const StyleValue& left, const StyleValue& right)
+    { return left.row == right.row; };
+    values.erase(std::unique(values.begin(), values.end(), isSameProperty), values.end());
+}
+
+void StyleReader::LinkColour(const ColourLink& link, StyleRecord& record)
+{
+    const std::string problem =
+        "its " + std::string(link.attribute) + " names the palette entry \"" + link.entry + "\", ";
+    const auto value =
+        std::ranges::find_if(record.values,
+                             [&](const StyleValue& each)
+                             {
+                                 const PropertyMapping& row = table.GetRows()[each.row];
+                                 return row.element == link.element && row.attribute == link.attribute;
+                             });
+    const CLR_COLORSPEC* const plain =
+        value == record.values.end() ? nullptr : value->value.TryGet<CLR_COLORSPEC>();
+    if (plain == nullptr)
+        return warnings.AddAbout(record,
+                                 problem + "but the colour itself is missing; the name was passed over");
+    const auto entry = palette.find(link.entry);
+    if (entry == palette.end())
+        return warnings.AddAbout(record, problem + "which does not exist; the colour itself counts");
+    // Other programs see the colour alone, and may have changed it.
+    if (plain->ToRgb() != entry->second)
+        return warnings.AddAbout(record, problem + "which looks different; the colour itself counts");
+    value->value = OvxUtils::Any(CLR_COLORSPEC::FromResource(OvxUtils::FromUtf8(link.entry), entry->second));
+}
+
+} // namespace ReferenceHost

@@ -1,0 +1,36 @@
+#include "reference_host/document/StyleRecord.h"
+
+#include <utility>
+
+namespace ReferenceHost
+{
+
+StyleRecord* StyleCatalogue::Add(StyleRecord record)
+{
+    if (Find(record.origin, record.family, record.name) != nullptr)
+        return nullptr;
+    StyleRecord& added = records.emplace_back(std::move(record));
+    byName[static_cast<std::size_t>(added.origin)][static_cast<std::size_t>(added.family)][added.name] =
+        &added;
+    return &added;
+}
+
+const StyleRecord* StyleCatalogue::Find(StyleFamily family, std::string_view name) const
+{
+    const StyleRecord* const automatic = Find(StyleOrigin::Automatic, family, name);
+    return automatic != nullptr ? automatic : Find(StyleOrigin::Named, family, name);
+}
+
+StyleRecord* StyleCatalogue::FindNamed(StyleFamily family, std::string_view name)
+{
+    return Find(StyleOrigin::Named, family, name);
+}
+
+StyleRecord* StyleCatalogue::Find(StyleOrigin origin, StyleFamily family, std::string_view name) const
+{
+    const auto& names = byName[static_cast<std::size_t>(origin)][static_cast<std::size_t>(family)];
+    const auto found = names.find(name);
+    return found == names.end() ? nullptr : found->second;
+}
+
+} // namespace ReferenceHost

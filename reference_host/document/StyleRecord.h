@@ -1,0 +1,85 @@
+#pragma once
+
+#include "host/style_model/Style.h"
+#include "host/utils/Any.h"
+
+#include <cstddef>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+/// The families of styles that concern a drawing.
+enum class StyleFamily
+{
+    Graphic,
+    Paragraph,
+    Text
+};
+
+/// Whether a style has a name that people know, or was made up for one place.
+enum class StyleOrigin
+{
+    Named,
+    Automatic
+};
+
+/// One property as a style of the file sets it.
+struct StyleValue
+{
+    std::size_t row = 0;           ///< The property's first row in the PropertyTable.
+    OvxUtils::Any value;           ///< Empty when the value depends on the inherited one.
+    double percentOfInherited = 0; ///< What is taken of the inherited value, when not 0.
+
+    /// Tells whether text gets the colour of the window, whatever was inherited.
+    [[nodiscard]] bool IsWindowColour() const noexcept { return value.IsEmpty() && percentOfInherited == 0; }
+};
+
+/// A style as it stands in the file.
+struct StyleRecord
+{
+    std::string name; ///< As in the file: encoded.
+    StyleFamily family = StyleFamily::Graphic;
+    StyleOrigin origin = StyleOrigin::Automatic;
+    std::string parentName;         ///< As in the file; empty without a parent.
+    std::string displayName;        ///< Empty without one.
+    std::string ownCategory;        ///< The category of a named style that is not a whole style; else empty.
+    std::string ownParentName;      ///< Its parent of the same category, as in the file; empty without one.
+    bool isHidden = false;          ///< Hidden from people.
+    std::vector<StyleValue> values; ///< In the order of the table, each property once.
+
+    StyleRecord* parent = nullptr;  ///< The named style of the same family that parentName means.
+    Styles::Style* style = nullptr; ///< What a named graphic style became; owned by the sheet.
+};
+
+/// All styles of a drawing as they stand in its file. Records keep their addresses.
+class StyleCatalogue
+{
+public:
+    /// Adds a style unless there is one of its name, family and origin already.
+    ///
+    /// @returns the style added; null when it was there.
+    StyleRecord* Add(StyleRecord record);
+
+    /// A style of that name, automatic ones first; null when there is none.
+    [[nodiscard]] const StyleRecord* Find(StyleFamily family, std::string_view name) const;
+
+    /// A named style of that name; null when there is none.
+    [[nodiscard]] StyleRecord* FindNamed(StyleFamily family, std::string_view name);
+
+    /// All styles in the order of the file.
+    [[nodiscard]] std::deque<StyleRecord>& GetRecords() noexcept { return records; }
+
+private:
+    [[nodiscard]] StyleRecord* Find(StyleOrigin origin, StyleFamily family, std::string_view name) const;
+
+    std::deque<StyleRecord> records;
+    std::unordered_map<std::string_view, StyleRecord*>
+        byName[2][3]; ///< By origin and family; keys lie in the records.
+};
+
+} // namespace ReferenceHost

@@ -1,0 +1,31 @@
+#include "reference_host/document/Warnings.h"
+
+#include "host/utils/Utf8.h"
+#include "reference_host/document/StyleNames.h"
+
+namespace ReferenceHost
+{
+
+Warnings::Warnings(std::vector<std::string>& target) : lines(target)
+{
+}
+
+void Warnings::Add(const std::string& text)
+{
+    if (seen.insert(text).second)
+        lines.push_back(text);
+}
+
+void Warnings::AddAbout(const StyleRecord& style, const std::string& text)
+{
+    const std::string name =
+        style.name.empty() ? "default style" : "style \"" + ReadableName(style.name) + "\"";
+    Add(name + ": " + text);
+}
+
+std::string ReadableName(std::string_view encoded)
+{
+    return OvxUtils::ToUtf8(DecodeStyleName(encoded));
+}
+
+} // namespace ReferenceHost
