@@ -49,7 +49,10 @@ public:
     /// Orders two texts: negative, zero or positive as this text stands before, with or after `other`.
     [[nodiscard]] int Compare(OvxStringViewT other, CompareCase compareCase = CompareCase::Sensitive) const;
 
-    /// Fills a printf-style pattern that takes one int ("%d").
+    /// Fills a pattern that takes one number: its first "%d" or "%i", with or without flags ("-", "+", " ",
+    /// "0") and a width, becomes `value`, and "%%" one percent sign.
+    ///
+    /// Everything else stays as it is, so that no pattern, however wrong, is a danger.
     [[nodiscard]] static OvxWideString Format(const wchar_t* pattern, int value);
 
     /// Fills the inserts "%1" to "%9" of a message pattern with `inserts`, in one pass.
@@ -68,6 +71,17 @@ public:
     friend bool operator==(const OvxWideString& left, OvxStringViewT right) noexcept
     {
         return std::wstring_view(left.text) == std::wstring_view(right);
+    }
+
+    // One for each standard text, since each converts to this one and to the view alike.
+    friend bool operator==(const OvxWideString& left, const std::wstring& right) noexcept
+    {
+        return left.text == right;
+    }
+
+    friend bool operator==(const OvxWideString& left, std::wstring_view right) noexcept
+    {
+        return left.text == right;
     }
 
     friend bool operator==(const OvxWideString& left, const wchar_t* right) noexcept

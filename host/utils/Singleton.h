@@ -74,7 +74,12 @@ private:
     static SingletonData* GetSingletonData(bool create);
     static void CreateData(SingletonEntry& entry, bool create);
     static void DeleteData(void* data);
-    static void CreateSingletonData(SingletonData& data);
+
+    /// Makes the instance when there is none.
+    ///
+    /// @returns the instance, never null; it is the one that was seen, even when another thread releases it
+    /// meanwhile.
+    static T* CreateSingletonData(SingletonData& data);
 
     /// The registry's entry; null before first use and again after it was withdrawn. Atomic exchange only.
     static inline std::atomic<SingletonEntry*> g_pEntry = nullptr;
@@ -85,9 +90,7 @@ private:
 template <class T>
 T& Singleton<T>::GetInstance()
 {
-    SingletonData& data = *GetSingletonData(true);
-    CreateSingletonData(data);
-    return *data.instance.load();
+    return *CreateSingletonData(*GetSingletonData(true));
 }
 
 template <class T>
@@ -173,17 +176,19 @@ void Singleton<T>::DeleteData(void* data)
 
 // The test before the lock is deliberate: once the instance stands, nobody waits for the lock again.
 template <class T>
-void Singleton<T>::CreateSingletonData(SingletonData& data)
+T* Singleton<T>::CreateSingletonData(SingletonData& data)
 {
-    if (data.instance.load() != nullptr)
-        return;
+    if (T* const standing = data.instance.load())
+        return standing;
 
     WriteLock lock(data.lock);
-    if (data.instance.load() != nullptr)
-        return;
+    if (T* const standing = data.instance.load())
+        return standing;
 
-    data.deleteInstance(data.instance.exchange(data.createInstance()));
+    T* const created = data.createInstance();
+    data.deleteInstance(data.instance.exchange(created));
     RegisterFinalizer();
+    return created;
 }
 
 } // namespace OvxUtils
