@@ -41,12 +41,13 @@ public:
         queue.Enqueue(std::move(event));
     }
 
-    /// Calls `listener` for each event of that name with its arguments.
+    /// Calls `listener` for each event of that name with its arguments, whose types the caller names.
     ///
     /// An event that carries other types fails with std::bad_cast, one that carries fewer with
     /// std::out_of_range; further ones are left out.
     template <class... Arguments>
-    ListenerToken Subscribe(const OvxStringT& name, std::function<void(Arguments...)> listener)
+    ListenerToken Subscribe(const OvxStringT& name,
+                            std::type_identity_t<std::function<void(Arguments...)>> listener)
     {
         return queue.Subscribe(name, [call = std::move(listener)](const std::vector<OvxUtils::Any>& arguments)
                                { Apply(call, arguments, std::index_sequence_for<Arguments...>()); });
