@@ -1,0 +1,56 @@
+#pragma once
+
+#include "host/style_model/Style.h"
+
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The calls that the recorders of one test received, one readable line each, in the order in which they
+/// came.
+///
+/// All recorders of a test share one log, so that it also tells who was called before whom.
+class CallLog
+{
+public:
+    CallLog() = default;
+    CallLog(const CallLog&) = delete;
+    CallLog& operator=(const CallLog&) = delete;
+
+    /// Adds a line, then calls onLine with it.
+    void Add(const std::string& line);
+
+    [[nodiscard]] const std::vector<std::string>& Lines() const noexcept { return lines; }
+
+    /// The lines that begin with one of `beginnings`, in order.
+    [[nodiscard]] std::vector<std::string> LinesOf(std::initializer_list<std::string_view> beginnings) const;
+
+    /// The lines that begin with none of `beginnings`, in order.
+    [[nodiscard]] std::vector<std::string> LinesBut(std::initializer_list<std::string_view> beginnings) const;
+
+    /// Forgets the lines, not the names.
+    void Clear() noexcept { lines.clear(); }
+
+    /// Gives an object a name in lines to come; a later one replaces it.
+    void SetName(const void* object, std::string name);
+
+    /// The name of an object, "null", or "unnamed".
+    [[nodiscard]] std::string NameOf(const void* object) const;
+
+    /// The name of a style; a substyle without one is named after its owner and its category: "box.fill".
+    [[nodiscard]] std::string NameOfStyle(const Styles::Style* style) const;
+
+    /// The names of styles in brackets: "[box, null]".
+    [[nodiscard]] std::string NamesOfStyles(const std::vector<Styles::Style*>& styles) const;
+
+    /// Called with each line as it comes, while the call that it tells of is still under way. For tests that
+    /// look at what is visible at that moment, or that call back in.
+    std::function<void(const std::string& line)> onLine;
+
+private:
+    std::vector<std::string> lines;
+    std::map<const void*, std::string> names;
+};

@@ -1,0 +1,34 @@
+#include "tests/datasource/support/HostedTest.h"
+
+#include "module/StylesCommon.h"
+#include "reference_host/style_model/StyleHosting.h"
+
+StyleLeakTest::StyleLeakTest() : styleCountBefore(ReferenceHost::LiveStyleCount())
+{
+}
+
+StyleLeakTest::~StyleLeakTest()
+{
+    EXPECT_EQ(ReferenceHost::LiveStyleCount(), styleCountBefore) << "styles were leaked";
+}
+
+HostedTest::HostedTest()
+{
+    source.sheet = &sheet;
+    app.source = &source;
+    app.stylesApp = &stylesApp;
+    StylesCommon::GetInstance().Initialize(&app);
+    panel.Complete();
+    log.Clear();
+}
+
+HostedTest::~HostedTest()
+{
+    log.onLine = nullptr;
+    StylesCommon::GetInstance().Initialize(nullptr);
+}
+
+void HostedTest::Target(RecordingPanel& shownBy, const std::vector<Styles::Style*>& targets, bool isDefault)
+{
+    shownBy.SetTargetStyle(targets, isDefault, Styles::PropertyPath(), {});
+}
