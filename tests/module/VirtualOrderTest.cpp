@@ -15,6 +15,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -109,6 +110,65 @@ TEST(DataSourceOperations, StandInTheOrderOfTheBinaryInterface)
     const BaseStylePropertiesDatasource dataSource;
 
     EXPECT_THAT(OperationsOf(dataSource), testing::ElementsAreArray(kBinaryInterface));
+}
+
+/// The class that declares the operation which a pointer to member of that type names.
+template <class Operation>
+struct DeclaredBy;
+
+template <class Signature, class Class>
+struct DeclaredBy<Signature Class::*> : std::type_identity<Class>
+{
+};
+
+template <auto operation>
+using DeclaringClass = typename DeclaredBy<decltype(operation)>::type;
+
+TEST(DataSourceOperations, OverrideNoneOfTheFrameworks)
+{
+    using DataSource = BaseStylePropertiesDatasource;
+
+    EXPECT_TRUE((std::is_same_v<DeclaringClass<&DataSource::GetDynamicDelegate>, IReflectable>));
+    EXPECT_TRUE((std::is_same_v<DeclaringClass<&DataSource::GetDynamicType>, IReflectable>));
+    EXPECT_TRUE((std::is_same_v<DeclaringClass<&DataSource::GetDataContext>, DataSourceImpl>));
+    EXPECT_TRUE((std::is_same_v<DeclaringClass<&DataSource::SetDataSourceProvider>, DataSourceImpl>));
+    EXPECT_TRUE((std::is_same_v<DeclaringClass<&DataSource::Destroy>, DataSourceImpl>));
+}
+
+TEST(DataSourceOperations, OverridePostConstruct)
+{
+    EXPECT_TRUE((std::is_same_v<DeclaringClass<&BaseStylePropertiesDatasource::PostConstruct>,
+                                BaseStylePropertiesDatasource>));
+}
+
+/// Counts how often a derived data source was ended.
+class CountedPanel final : public BaseStylePropertiesDatasource
+{
+public:
+    explicit CountedPanel(int& ended) : count(ended) {}
+
+    ~CountedPanel() override { ++count; }
+
+private:
+    int& count;
+};
+
+template <class Part>
+class DataSourcePart : public testing::Test
+{
+};
+
+using DataSourceParts = testing::Types<IReflectable, IBroadcaster, OvxUtils::PostConstructible, IDataSource>;
+TYPED_TEST_SUITE(DataSourcePart, DataSourceParts);
+
+TYPED_TEST(DataSourcePart, EndsTheWholeObject)
+{
+    int ended = 0;
+    std::unique_ptr<TypeParam> part = std::make_unique<CountedPanel>(ended);
+
+    part.reset();
+
+    EXPECT_EQ(ended, 1);
 }
 
 TEST(DataSourceOperations, BelongToTheLibrary)
