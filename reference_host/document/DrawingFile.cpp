@@ -18,6 +18,7 @@ namespace
 {
 
 constexpr const char* kContentEntry = "content.xml";
+constexpr const char* kManifestEntry = "META-INF/manifest.xml";
 
 } // namespace
 
@@ -81,14 +82,10 @@ struct Manifest
     bool isContentEncrypted = false;
 };
 
-Manifest ReadManifest(const ZipArchive& archive)
+Manifest ReadManifest(std::string_view text, const std::string& label)
 {
-    const std::string entry = "META-INF/manifest.xml";
     Manifest manifest;
-    if (!archive.Contains(entry))
-        return manifest;
-    const std::string text = archive.Read(entry);
-    const auto tree = ParseXml(text, archive.LabelOf(entry));
+    const auto tree = ParseXml(text, label);
     XmlNames names;
     const pugi::xml_node root = tree->document_element();
     const XmlNames::Scope rootScope(names, root);
@@ -111,13 +108,23 @@ std::string ReadOptional(const ZipArchive& archive, const std::string& entry)
     return archive.Contains(entry) ? archive.Read(entry) : std::string();
 }
 
+/// Tells whether the manifest must be read. It is left alone otherwise: programs that write sound drawings
+/// have written manifests with a DOCTYPE.
+bool NeedsManifest(std::string_view manifest, std::string_view mimetype)
+{
+    return mimetype.empty() || manifest.find("encryption-data") != std::string_view::npos;
+}
+
 void Unpack(DrawingFile& file)
 {
     const ZipArchive archive(file.bytes, file.label);
     const std::string mimetype = ReadOptional(archive, "mimetype");
     if (!mimetype.empty())
         file.isTemplate = IsTemplateMediaType(TrimXmlBlanks(mimetype), file.label);
-    const Manifest manifest = ReadManifest(archive);
+    const std::string manifestText = ReadOptional(archive, kManifestEntry);
+    Manifest manifest;
+    if (!manifestText.empty() && NeedsManifest(manifestText, mimetype))
+        manifest = ReadManifest(manifestText, archive.LabelOf(kManifestEntry));
     if (mimetype.empty() && !manifest.mediaType.empty())
         file.isTemplate = IsTemplateMediaType(manifest.mediaType, file.label);
     const bool isPackage =

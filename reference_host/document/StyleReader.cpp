@@ -139,12 +139,10 @@ void StyleReader::ReadStyle(pugi::xml_node element, XmlNames& names, StyleOrigin
     record.ownCategory = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kCategory});
     record.ownParentName = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kParent});
     ReadProperties(element, names, record);
-    const StyleRecord* const added = catalogue.Add(std::move(record));
-    if (added == nullptr)
-    {
-        warnings.Add("style \"" + ReadableName(names.Attribute(element, {Odf::kStyle, "name"})) +
-                     "\": it is there twice; the first one counts");
-    }
+    // Programs repeat styles word for word; only a difference is worth a report.
+    if (catalogue.HasOther(record))
+        warnings.AddAbout(record, "it is there twice; the first one counts");
+    catalogue.Add(std::move(record));
 }
 
 void StyleReader::ReadProperties(pugi::xml_node styleElement, XmlNames& names, StyleRecord& record)

@@ -37,6 +37,8 @@ struct StyleValue
 
     /// Tells whether text gets the colour of the window, whatever was inherited.
     [[nodiscard]] bool IsWindowColour() const noexcept { return value.IsEmpty() && percentOfInherited == 0; }
+
+    friend bool operator==(const StyleValue&, const StyleValue&) = default;
 };
 
 /// A style as it stands in the file.
@@ -61,9 +63,11 @@ class StyleCatalogue
 {
 public:
     /// Adds a style unless there is one of its name, family and origin already.
-    ///
-    /// @returns the style added; null when it was there.
-    StyleRecord* Add(StyleRecord record);
+    void Add(StyleRecord record);
+
+    /// Tells whether there is a style of the same name, family and origin that sets or inherits something
+    /// else.
+    [[nodiscard]] bool HasOther(const StyleRecord& record) const;
 
     /// A style of that name, automatic ones first; null when there is none.
     [[nodiscard]] const StyleRecord* Find(StyleFamily family, std::string_view name) const;

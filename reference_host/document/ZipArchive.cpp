@@ -5,7 +5,6 @@
 #include <zip.h>
 
 #include <algorithm>
-#include <array>
 #include <limits>
 
 namespace ReferenceHost
@@ -127,22 +126,29 @@ std::string ZipArchive::Read(const std::string& entry) const
         throw DocumentError(std::string("the entry cannot be unpacked (") + zip_strerror(archive.get()) + ")",
                             LabelOf(entry), "an intact entry");
     }
-    std::string text;
-    text.reserve(stat.size);
-    std::array<char, 65536> chunk{};
-    for (;;)
+    std::string text(stat.size, '\0');
+    std::size_t length = 0;
+    while (length < text.size())
     {
-        const zip_int64_t got = zip_fread(file.get(), chunk.data(), chunk.size());
-        if (got == 0)
-            return text;
+        const zip_int64_t got = zip_fread(file.get(), text.data() + length, text.size() - length);
         if (got < 0)
-        {
-            throw DocumentError(std::string("the entry is damaged (") + zip_file_strerror(file.get()) + ")",
-                                LabelOf(entry), "an intact entry");
-        }
-        text.append(chunk.data(), static_cast<std::size_t>(got));
-        CheckUnpacked(text.size(), stat.comp_size, LabelOf(entry));
+            FailDamaged(zip_file_strerror(file.get()), entry);
+        if (got == 0)
+            FailDamaged("it ends early", entry);
+        length += static_cast<std::size_t>(got);
     }
+    // Reading on to the end checks the checksum, and that there is no more than was announced.
+    char beyond = 0;
+    const zip_int64_t more = zip_fread(file.get(), &beyond, 1);
+    if (more != 0)
+        FailDamaged(more < 0 ? zip_file_strerror(file.get()) : "it holds more than the archive announces",
+                    entry);
+    return text;
+}
+
+void ZipArchive::FailDamaged(const std::string& reason, const std::string& entry) const
+{
+    throw DocumentError("the entry is damaged (" + reason + ")", LabelOf(entry), "an intact entry");
 }
 
 std::string ZipArchive::LabelOf(const std::string& entry) const

@@ -54,6 +54,7 @@ private:
     void CheckAnnouncedSizes() const;
     void CheckUnpacked(std::uint64_t unpacked, std::uint64_t packed, const std::string& where) const;
     [[nodiscard]] std::uint64_t FindOnly(const std::string& entry) const;
+    [[noreturn]] void FailDamaged(const std::string& reason, const std::string& entry) const;
 
     std::string label;
     std::unique_ptr<zip, Close> archive;
