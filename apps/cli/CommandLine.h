@@ -1,0 +1,49 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace Cli
+{
+
+/// What every command about a drawing takes.
+struct DrawingOptions
+{
+    std::string file;
+    bool isJson = false;
+    std::optional<std::filesystem::path> panelFolder; ///< The one chosen on the command line.
+    std::string language;                             ///< Empty: chosen by the output's reader.
+};
+
+/// styleprops inspect
+struct InspectOptions
+{
+    DrawingOptions drawing;
+    std::string selector;
+    std::vector<std::string> panels; ///< Names; empty for all.
+    bool isEach = false;
+};
+
+/// styleprops styles
+struct StylesOptions
+{
+    DrawingOptions drawing;
+};
+
+/// A text that was asked for in place of work: help or the version.
+struct InformationText
+{
+    std::string text;
+};
+
+using Command = std::variant<InspectOptions, StylesOptions, InformationText>;
+
+/// Reads the command line of the tool.
+///
+/// @throws Workbench::UsageError when it cannot be understood.
+[[nodiscard]] Command ParseCommandLine(int argumentCount, const char* const* arguments);
+
+} // namespace Cli

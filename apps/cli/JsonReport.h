@@ -1,0 +1,39 @@
+#pragma once
+
+#include "apps/workbench/Report.h"
+#include "apps/workbench/TargetHandover.h"
+
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace Cli
+{
+
+/// A report as programs read it; docs/json-format.md tells every field.
+[[nodiscard]] nlohmann::ordered_json ReportToJson(const Workbench::Report& report);
+
+/// A named style as programs read it.
+[[nodiscard]] nlohmann::ordered_json StyleToJson(const Workbench::NamedStyleFacts& style);
+
+/// Puts a document for programs together piece by piece, each on a line of its own, so that a large drawing
+/// is never held as a tree in memory.
+class JsonDocument
+{
+public:
+    /// Begins a document about `file` whose pieces form the list `listName`.
+    JsonDocument(const std::filesystem::path& file, const std::string& listName);
+
+    void Add(const nlohmann::ordered_json& piece);
+
+    /// The whole document, UTF-8, its last line ended. To be called once, after the last piece.
+    [[nodiscard]] std::string Finish();
+
+private:
+    std::string text;
+    bool isEmpty = true;
+};
+
+} // namespace Cli

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/utils/OvxStringT.h"
+#include "reference_host/document/Drawing.h"
+#include "reference_host/services/IDocumentStyles.h"
+
+#include <vector>
+
+namespace Workbench
+{
+
+/// The styles of a drawing as the application asks for them. Borrows the drawing.
+class DrawingStyles : public ReferenceHost::IDocumentStyles
+{
+public:
+    explicit DrawingStyles(ReferenceHost::Drawing& openDrawing) : drawing(&openDrawing) {}
+
+    DrawingStyles(const DrawingStyles&) = delete;
+    DrawingStyles& operator=(const DrawingStyles&) = delete;
+    virtual ~DrawingStyles() = default;
+
+    Styles::StyleSheet* GetStyleSheet() override;
+
+    /// The one default style of the drawing.
+    std::vector<Styles::Style*> GetDefaultStyles() override;
+
+    [[nodiscard]] bool IsHidden(const OvxStringT& styleName) const override;
+    [[nodiscard]] OvxStringT GetDisplayName(const OvxStringT& styleName) const override;
+
+private:
+    ReferenceHost::Drawing* drawing;
+};
+
+} // namespace Workbench

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "apps/workbench/DrawingStyles.h"
+#include "apps/workbench/LibraryIntroduction.h"
+#include "apps/workbench/Panel.h"
+#include "apps/workbench/PanelDescription.h"
+#include "apps/workbench/Report.h"
+#include "apps/workbench/Selection.h"
+#include "apps/workbench/Selector.h"
+#include "apps/workbench/TargetHandover.h"
+#include "reference_host/document/Drawing.h"
+#include "reference_host/services/Application.h"
+#include "reference_host/services/DataContext.h"
+#include "reference_host/services/DocumentStylesSource.h"
+#include "reference_host/services/HostObject.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Workbench
+{
+
+/// One open drawing with its panels.
+///
+/// Introduces library and reference host to each other for as long as it lives; a process has one at a time.
+/// All on one thread.
+class Session
+{
+public:
+    /// Opens a drawing. The categories that the described panels bring are part of it, whether or not the
+    /// panels are loaded later.
+    ///
+    /// @throws ReferenceHost::DocumentError when the drawing cannot be read.
+    Session(const std::filesystem::path& file, const std::vector<PanelDescription>& describedPanels);
+
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    /// Ends the panels, then the drawing.
+    ~Session();
+
+    /// What was repaired or passed over in the drawing, one line in UTF-8 each.
+    [[nodiscard]] const std::vector<std::string>& GetWarnings() const noexcept { return warnings; }
+
+    [[nodiscard]] ReferenceHost::Drawing& GetDrawing() noexcept { return *drawing; }
+
+    /// What the drawing's styles are, in words.
+    [[nodiscard]] const TargetHandover& GetStyles() const noexcept { return handover; }
+
+    /// Loads panels behind those that are loaded already. One that cannot be loaded leaves the others alone.
+    ///
+    /// @returns one line in UTF-8 for each that cannot be loaded.
+    [[nodiscard]] std::vector<std::string> LoadPanels(const std::vector<PanelDescription>& descriptions);
+
+    /// The loaded panels, in order.
+    [[nodiscard]] const std::vector<std::unique_ptr<Panel>>& GetPanels() const noexcept { return panels; }
+
+    /// Finds what a selector is about.
+    ///
+    /// @throws SelectionError when it finds nothing, see FindSelection().
+    [[nodiscard]] Selection Select(const Selector& selector);
+
+    /// Hands a selection in to all panels and reads what they show.
+    ///
+    /// @throws ReferenceHost::DocumentError when a panel answers something that no panel should.
+    [[nodiscard]] Report Inspect(const Selection& selection);
+
+private:
+    std::vector<std::string> warnings;
+    ReferenceHost::Application application;
+    LibraryIntroduction introduction;
+    std::unique_ptr<ReferenceHost::Drawing> drawing; ///< Never null.
+    DrawingStyles drawingStyles;
+    ReferenceHost::DocumentStylesSource stylesSource;
+    TargetHandover handover;
+    ReferenceHost::HostObject hostObject;
+    ReferenceHost::DataContext context;
+    std::vector<std::unique_ptr<Panel>> panels; ///< None null.
+};
+
+} // namespace Workbench

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "apps/workbench/PanelDescription.h"
+#include "apps/workbench/Selection.h"
+#include "datasource/BaseStylePropertiesDatasource.h"
+#include "host/utils/Any.h"
+#include "host/utils/OvxStringT.h"
+#include "reference_host/document/Drawing.h"
+#include "reference_host/document/DrawingObject.h"
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+namespace Workbench
+{
+
+/// What a panel holds after targets were handed in.
+struct HandedTargets
+{
+    bool hasTargets = false;
+    bool isDefaults = false; ///< The targets are the drawing's default styles.
+    OvxStringT styleName;    ///< The first target's name in the sheet; empty for any but a named style.
+};
+
+/// A named style of a drawing, in words.
+struct NamedStyleFacts
+{
+    OvxStringT name;
+    OvxStringT displayName;
+    OvxStringT parent;   ///< The name of the style it inherits from; empty without one.
+    OvxStringT category; ///< "style" for a whole style.
+    std::vector<OvxStringT>
+        own;               ///< What it sets itself: category and keys joined by ".", in the order of letters.
+    std::size_t users = 0; ///< How many objects have it as their named style.
+    bool isExternal = false; ///< It comes from another file.
+};
+
+/// The border to the style model: the one place of the programs that touches styles.
+///
+/// What is selected goes to the panels as styles here, and what the programs tell about styles comes out as
+/// words. Everything else about values goes by bound names. Borrows the drawing.
+class TargetHandover
+{
+public:
+    explicit TargetHandover(ReferenceHost::Drawing& openDrawing) : drawing(&openDrawing) {}
+
+    /// Tells whether every drawing has a category, whatever panels there are.
+    [[nodiscard]] static bool IsHostCategory(const OvxStringT& category);
+
+    /// Makes a category of a panel's own known by its display name. For before a drawing is opened.
+    static void RegisterCategory(const CategoryDescription& category);
+
+    /// Hands a selection in to a panel: first the objects that own the targets, then the targets, whose
+    /// arrival the panel announces.
+    ///
+    /// Of objects, what the panel's description asks for. A named style of one category is handed in to
+    /// panels of that category only; the others get no targets.
+    HandedTargets HandIn(BaseStylePropertiesDatasource& panel, const PanelDescription& description,
+                         const Selection& selection) const;
+
+    /// What a value of a choice means; none for any other value.
+    [[nodiscard]] static std::optional<OvxStringT> TextOfChoice(const OvxUtils::Any& value);
+
+    /// The names of all named styles, in the order of the sheet.
+    [[nodiscard]] const std::vector<OvxStringT>& GetStyleNames() const;
+
+    /// The named style that an object inherits from; empty for a group and without one.
+    [[nodiscard]] OvxStringT NamedStyleOf(ReferenceHost::DrawingObject& object) const;
+
+    /// The names of the styles that a named style inherits from, nearest first; none for an unknown name.
+    [[nodiscard]] std::vector<OvxStringT> AncestorsOf(const OvxStringT& styleName) const;
+
+    /// All named styles, in the order of the sheet.
+    [[nodiscard]] std::vector<NamedStyleFacts> DescribeNamedStyles() const;
+
+private:
+    [[nodiscard]] NamedStyleFacts Describe(const OvxStringT& styleName) const;
+
+    ReferenceHost::Drawing* drawing;
+};
+
+} // namespace Workbench
