@@ -5,37 +5,30 @@
 namespace ReferenceHost
 {
 
-constinit const std::array<Styles::StringPool::Text, kConstantTextCount> kConstantTexts{
-    {{L"style"}, {L"fill"}, {L"outline"}, {L"paragraph"}, {L"character"}}};
+constinit const std::array<Styles::StringPool::Text, static_cast<std::size_t>(ConstantText::Count)>
+    kConstantTexts{{{L"style"}, {L"fill"}, {L"outline"}, {L"paragraph"}, {L"character"}, {L"*"}}};
 
 } // namespace ReferenceHost
 
 namespace Styles
 {
 
-namespace
-{
-
-constexpr PropertyKey ConstantKey(std::size_t index)
-{
-    return PooledString<StringPool>(&ReferenceHost::kConstantTexts[index]);
-}
-
-} // namespace
+using ReferenceHost::ConstantKey;
+using ReferenceHost::ConstantText;
 
 constinit const PropertyKey PropertyKey::Empty{};
-constinit const PropertyKey StyleCategoryName = ConstantKey(0);
-constinit const PropertyKey FillStyleCategoryName = ConstantKey(1);
-constinit const PropertyKey OutlineStyleCategoryName = ConstantKey(2);
+constinit const PropertyKey StyleCategoryName = ConstantKey(ConstantText::Style);
+constinit const PropertyKey FillStyleCategoryName = ConstantKey(ConstantText::Fill);
+constinit const PropertyKey OutlineStyleCategoryName = ConstantKey(ConstantText::Outline);
 
 PropertyKey GetParagraphStyleCategoryName()
 {
-    return ConstantKey(3);
+    return ConstantKey(ConstantText::Paragraph);
 }
 
 PropertyKey GetCharacterStyleCategoryName()
 {
-    return ConstantKey(4);
+    return ConstantKey(ConstantText::Character);
 }
 
 } // namespace Styles

@@ -2,6 +2,7 @@
 #include "reference_host/style_model/StyleData.h"
 #include "reference_host/style_model/StyleResolution.h"
 
+#include <optional>
 #include <vector>
 
 // Copying values from one style to another: SetProperties. Structure stays: where values go away, the
@@ -85,15 +86,17 @@ void Style::SetProperties(const PropertyPaths& paths, const Style* source)
     if (source == nullptr || source == this)
         return;
 
-    // Writing must not change what is still to be read.
-    const Style snapshot(*source);
+    // Where one of the two lies within the other, writing must not change what is still to be read.
+    const bool entangled = &ReferenceHost::OutermostOwner(*this) == &ReferenceHost::OutermostOwner(*source);
+    const std::optional<Style> snapshot = entangled ? std::optional<Style>(*source) : std::nullopt;
+    const Style& from = entangled ? *snapshot : *source;
     for (const PropertyPath& path : paths)
     {
         if (path.empty())
             continue;
         const Names all(path);
-        CopyProperty(*this, snapshot, all.first(all.size() - 1), path.back());
-        CopySubstyle(*this, snapshot, all);
+        CopyProperty(*this, from, all.first(all.size() - 1), path.back());
+        CopySubstyle(*this, from, all);
     }
 }
 

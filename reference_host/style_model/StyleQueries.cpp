@@ -1,5 +1,6 @@
 #include "host/style_model/Style.h"
 #include "reference_host/style_model/CategoryRegistry.h"
+#include "reference_host/style_model/ConstantTexts.h"
 #include "reference_host/style_model/StyleData.h"
 #include "reference_host/style_model/StyleResolution.h"
 
@@ -26,13 +27,6 @@ void CollectOverridden(const Style& style, PropertyPath& path, PropertyPaths& fo
     }
 }
 
-/// The last key of a path that stands for everything below the keys before it.
-const PropertyKey& Wildcard()
-{
-    static const PropertyKey wildcard = PooledString<StringPool>(L"*");
-    return wildcard;
-}
-
 } // namespace
 
 bool Style::DoesOverridePathProperty(const PropertyPath& path) const
@@ -48,7 +42,8 @@ bool Style::DoesOverridePathProperty(const PropertyPath& path) const
     if (holder.FindOwn(path.back()) != nullptr)
         return true;
 
-    const Style* whole = path.back() == Wildcard() ? place : holder.FindSubstyle(path.back());
+    const bool isWildcard = path.back() == ReferenceHost::ConstantKey(ReferenceHost::ConstantText::Wildcard);
+    const Style* whole = isWildcard ? place : holder.FindSubstyle(path.back());
     return whole != nullptr && StyleData::Of(*whole).HasValues();
 }
 

@@ -1,0 +1,137 @@
+#include "reference_host/style_model/NamedStyleSheet.h"
+
+#include "host/style_model/CategoryNames.h"
+#include "reference_host/style_model/StyleHosting.h"
+#include "tests/reference_host/style_model/StyleMaking.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace
+{
+
+using ReferenceHost::NamedStyleSheet;
+using Styles::Style;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::unique_ptr<Style> Of(const Styles::PropertyKey& category)
+{
+    return std::make_unique<Style>(nullptr, category);
+}
+
+TEST(NamedStyleSheet, FindsStylesByNameAndNamesByStyle)
+{
+    NamedStyleSheet sheet;
+    Style* const accent = sheet.Add(L"Accent", MakeWhole());
+    Style* const base = sheet.Add(L"Base", MakeWhole());
+
+    ASSERT_NE(accent, nullptr);
+    EXPECT_EQ(sheet.GetStyle(L"Accent"), accent);
+    EXPECT_EQ(sheet.GetStyle(L"Base"), base);
+    EXPECT_EQ(sheet.GetStyleName(accent), L"Accent");
+    EXPECT_EQ(sheet.GetStyleName(base), L"Base");
+}
+
+TEST(NamedStyleSheet, KnowsNoOtherStyles)
+{
+    NamedStyleSheet sheet;
+    Style* const accent = sheet.Add(L"Accent", MakeWhole());
+    const Style stranger;
+
+    EXPECT_EQ(sheet.GetStyle(L"accent"), nullptr);
+    EXPECT_EQ(sheet.GetStyle(L""), nullptr);
+    EXPECT_EQ(sheet.GetStyleName(nullptr), L"");
+    EXPECT_EQ(sheet.GetStyleName(&stranger), L"");
+    EXPECT_EQ(sheet.GetStyleName(&Sub(*accent, L"fill")), L"");
+}
+
+TEST(NamedStyleSheet, ListsNamesOfACategoryInItsOrder)
+{
+    NamedStyleSheet sheet;
+    sheet.Add(L"Zebra", Of(Styles::StyleCategoryName));
+    sheet.Add(L"Dots", Of(Styles::FillStyleCategoryName));
+    sheet.Add(L"Apple", Of(Styles::StyleCategoryName));
+
+    EXPECT_THAT(sheet.GetStyleNames(Styles::StyleCategoryName), ElementsAre(L"Zebra", L"Apple"));
+    EXPECT_THAT(sheet.GetStyleNames(Styles::FillStyleCategoryName), ElementsAre(L"Dots"));
+    EXPECT_THAT(sheet.GetStyleNames(Styles::OutlineStyleCategoryName), IsEmpty());
+    EXPECT_THAT(sheet.GetNames(), ElementsAre(L"Zebra", L"Dots", L"Apple"));
+}
+
+TEST(NamedStyleSheet, TakesNoStyleUnderANameThatIsTakenOrEmpty)
+{
+    NamedStyleSheet sheet;
+    Style* const accent = sheet.Add(L"Accent", MakeWhole());
+    const std::size_t before = ReferenceHost::LiveStyleCount();
+
+    EXPECT_EQ(sheet.Add(L"Accent", MakeWhole()), nullptr);
+    EXPECT_EQ(sheet.Add(L"", MakeWhole()), nullptr);
+    EXPECT_EQ(sheet.Add(L"Nothing", nullptr), nullptr);
+
+    EXPECT_EQ(sheet.GetStyle(L"Accent"), accent);
+    EXPECT_THAT(sheet.GetNames(), ElementsAre(L"Accent"));
+    EXPECT_EQ(ReferenceHost::LiveStyleCount(), before);
+}
+
+TEST(NamedStyleSheet, KeepsAFreeNameAsItIs)
+{
+    const NamedStyleSheet sheet;
+
+    EXPECT_EQ(sheet.GetUnusedStyleName(L"Accent"), L"Accent");
+    EXPECT_EQ(sheet.GetUnusedStyleName(L""), L"");
+}
+
+TEST(NamedStyleSheet, NumbersANameThatIsTaken)
+{
+    NamedStyleSheet sheet;
+    sheet.Add(L"Accent", MakeWhole());
+    EXPECT_EQ(sheet.GetUnusedStyleName(L"Accent"), L"Accent 2");
+
+    sheet.Add(L"Accent 2", MakeWhole());
+    sheet.Add(L"Accent 4", MakeWhole());
+
+    EXPECT_EQ(sheet.GetUnusedStyleName(L"Accent"), L"Accent 3");
+    EXPECT_EQ(sheet.GetUnusedStyleName(L"Accent"), L"Accent 3");
+    EXPECT_EQ(sheet.GetUnusedStyleName(L"Accent 2"), L"Accent 2 2");
+}
+
+TEST(NamedStyleSheet, SkipsNumbersThatAreTaken)
+{
+    NamedStyleSheet sheet;
+    sheet.Add(L"Accent", MakeWhole());
+    sheet.Add(L"Accent 3", MakeWhole());
+    sheet.Add(sheet.GetUnusedStyleName(L"Accent"), MakeWhole());
+
+    EXPECT_EQ(sheet.GetUnusedStyleName(L"Accent"), L"Accent 4");
+}
+
+TEST(NamedStyleSheet, NamesTenThousandStylesFromOneBase)
+{
+    NamedStyleSheet sheet;
+
+    for (int i = 0; i < 10000; ++i)
+        sheet.Add(sheet.GetUnusedStyleName(L"Box"), std::make_unique<Style>());
+
+    EXPECT_EQ(sheet.GetNames().size(), 10000u);
+    EXPECT_EQ(sheet.GetNames().back(), L"Box 10000");
+}
+
+TEST(NamedStyleSheet, ClearsParentsWhenItGoes)
+{
+    auto sheet = std::make_unique<NamedStyleSheet>();
+    Style* const base = sheet->Add(L"Base", MakeWhole());
+    Style* const accent = sheet->Add(L"Accent", MakeWhole(base));
+    const auto object = MakeWhole(accent);
+    const std::size_t before = ReferenceHost::LiveStyleCount();
+
+    sheet.reset();
+
+    EXPECT_EQ(object->GetParent(), nullptr);
+    EXPECT_EQ(ReferenceHost::LiveStyleCount(), before - 6);
+}
+
+} // namespace
