@@ -16,7 +16,7 @@ public:
     /// The context this data source lives in; borrowed, null before it was set.
     [[nodiscard]] virtual IDataContext* GetDataContext() const = 0;
 
-    /// Sets the context; it must outlive this data source.
+    /// Sets the context. It must outlive this data source, or be taken away with null before it goes.
     virtual void SetDataSourceProvider(IDataContext* provider) = 0;
 
     /// Ends this data source, which was created by a factory. While a notification is being delivered it

@@ -19,7 +19,8 @@ public:
 /// A shared library that was loaded at run time, in memory as long as this object is.
 ///
 /// Loading runs the module's static initialisers, which register its factories; unloading runs their
-/// counterparts. Whatever the module made must be gone before that.
+/// counterparts. Whatever the module made must be gone before that: its data sources, those that wait for the
+/// idle step included, its listeners and its waiting events.
 class STYLEPROPERTIES_HOST_API LoadedModule
 {
 public:

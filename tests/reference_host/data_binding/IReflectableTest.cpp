@@ -2,6 +2,7 @@
 
 #include "host/data_binding/ID_CString.h"
 #include "tests/reference_host/data_binding/BoundNames.h"
+#include "tests/reference_host/data_binding/CountedAllocations.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -106,6 +107,18 @@ TEST(Property, IsWrittenWithItsType)
     lamp.Write<int>(L"Level", 65);
 
     EXPECT_EQ(lamp.level, 65);
+}
+
+TEST(Property, IsReadAndWrittenWithoutAllocating)
+{
+    Lamp lamp;
+    const std::size_t before = CountAllocations();
+
+    const int level = lamp.Read<int>(L"Level");
+    lamp.Write<int>(L"Level", level + 1);
+
+    EXPECT_EQ(CountAllocations(), before);
+    EXPECT_EQ(lamp.level, 41);
 }
 
 TEST(Property, IsReadAndWrittenWithoutNamingItsType)

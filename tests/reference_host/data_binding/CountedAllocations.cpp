@@ -1,0 +1,35 @@
+#include "tests/reference_host/data_binding/CountedAllocations.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace
+{
+
+constinit std::atomic<std::size_t> allocations = 0;
+
+} // namespace
+
+std::size_t CountAllocations() noexcept
+{
+    return allocations;
+}
+
+void* operator new(std::size_t size)
+{
+    ++allocations;
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t /*size*/) noexcept
+{
+    std::free(memory);
+}
