@@ -1,0 +1,222 @@
+// Three pieces of the host are replaced here by pieces of this program: what the reference host never answers
+// can then be answered, and what it answers without a trace leaves one. The library leaves these names to its
+// host; the dynamic linker finds them here first.
+
+#include "host/resources/Resources.h"
+#include "host/services/IAppInterface.h"
+#include "host/services/IPanelHost.h"
+#include "host/services/OvxComponent.h"
+#include "host/utils/PostConstructible.h"
+#include "tests/datasource/support/HostedTest.h"
+#include "tests/datasource/support/RecordingContext.h"
+
+#include <map>
+
+namespace
+{
+
+/// The answers of the replaced pieces, and what they were asked.
+struct Replacements
+{
+    IAppInterface* appInterface = nullptr;
+    int basePostConstructions = 0;
+    std::map<OvxStringT, OvxStringT> texts; ///< By key; a key without a text gives the key.
+    CallLog* log = nullptr;
+};
+
+Replacements replacements;
+
+} // namespace
+
+IAppInterface* OvxComponent::GetAppInterface()
+{
+    return replacements.appInterface;
+}
+
+void OvxUtils::PostConstructible::PostConstruct()
+{
+    ++replacements.basePostConstructions;
+}
+
+OvxStringT Framework::Resources::GetString(const OvxStringT& key)
+{
+    if (replacements.log != nullptr)
+        replacements.log->Add("text " + Describe(key));
+    const auto found = replacements.texts.find(key);
+    return found == replacements.texts.end() ? key : found->second;
+}
+
+namespace
+{
+
+using namespace Styles;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class PanelHostAnswering final : public IPanelHost
+{
+public:
+    IDataContext* GetObjectPropertiesContext() override { return context; }
+
+    IDataContext* context = nullptr;
+};
+
+class AppInterfaceAnswering final : public IAppInterface
+{
+public:
+    IPanelHost* GetPanelHost() override { return panelHost; }
+
+    IPanelHost* panelHost = nullptr;
+};
+
+class ReplacedHost : public HostedTest
+{
+protected:
+    ReplacedHost()
+    {
+        replacements = Replacements();
+        replacements.log = &log;
+    }
+
+    ~ReplacedHost() override { replacements = Replacements(); }
+
+    /// What a panel made in `surroundings` learns.
+    int IsObjectPropertiesIn(IDataContext* surroundings)
+    {
+        RecordingPanel created(log, "created");
+        created.SetDataSourceProvider(surroundings);
+        created.Complete();
+        return created.IsObjectProperties();
+    }
+
+    RecordingContext context{log};
+    PanelHostAnswering panelHost;
+    AppInterfaceAnswering appInterface;
+};
+
+TEST_F(ReplacedHost, WithoutAUserInterfaceServesNoObjectProperties)
+{
+    EXPECT_EQ(IsObjectPropertiesIn(nullptr), 0) << "there is nothing to compare the missing context with";
+    EXPECT_EQ(IsObjectPropertiesIn(&context), 0);
+}
+
+TEST_F(ReplacedHost, WithoutAPanelHostServesNoObjectProperties)
+{
+    replacements.appInterface = &appInterface;
+
+    EXPECT_EQ(IsObjectPropertiesIn(nullptr), 0) << "there is nothing to compare the missing context with";
+    EXPECT_EQ(IsObjectPropertiesIn(&context), 0);
+}
+
+TEST_F(ReplacedHost, WithTheSameContextServesObjectProperties)
+{
+    replacements.appInterface = &appInterface;
+    appInterface.panelHost = &panelHost;
+    panelHost.context = &context;
+
+    EXPECT_EQ(IsObjectPropertiesIn(&context), 1);
+    EXPECT_EQ(IsObjectPropertiesIn(nullptr), 0);
+}
+
+TEST_F(ReplacedHost, ComparesContextsAsTheyAreWhenBothAreMissing)
+{
+    replacements.appInterface = &appInterface;
+    appInterface.panelHost = &panelHost;
+
+    EXPECT_EQ(IsObjectPropertiesIn(nullptr), 1);
+    EXPECT_EQ(IsObjectPropertiesIn(&context), 0);
+}
+
+TEST_F(ReplacedHost, IsNotPostConstructedByTheFrameworksOwnHook)
+{
+    RecordingPanel created(log, "created");
+
+    created.Complete();
+
+    EXPECT_EQ(replacements.basePostConstructions, 0);
+}
+
+TEST_F(ReplacedHost, WouldNoticeTheFrameworksOwnHook)
+{
+    class WithoutAHook final : public OvxUtils::PostConstructible
+    {
+    };
+
+    WithoutAHook plain;
+
+    plain.FinishConstruction();
+
+    EXPECT_EQ(replacements.basePostConstructions, 1);
+}
+
+/// Titles from patterns that no catalogue has.
+class ReplacedTexts : public ReplacedHost
+{
+protected:
+    ReplacedTexts()
+    {
+        replacements.texts[L"category.fill"] = L"Fill";
+        NameInSheet(L"Base", base);
+    }
+
+    OvxStringT TitleFrom(const wchar_t* pattern)
+    {
+        replacements.texts[L"e14efa70-e60c-4529-b1d8-e5e8cc8d6c4a"] = pattern;
+        Target(panel, {&box});
+        return panel.GetSectionTitle();
+    }
+
+    Style& base = styles.WithFill("base");
+    Style& box = styles.WithFill("box", &base);
+};
+
+TEST_F(ReplacedTexts, PutCategoryAndStyleWhereThePatternHasThem)
+{
+    EXPECT_EQ(TitleFrom(L"%2 (%1)"), L"<Base> (Fill)");
+}
+
+TEST_F(ReplacedTexts, GiveTheCategoryAloneForAnEmptyPattern)
+{
+    EXPECT_EQ(TitleFrom(L""), L"Fill");
+}
+
+TEST_F(ReplacedTexts, DoubleTheAmpersandsOfThePatternToo)
+{
+    EXPECT_EQ(TitleFrom(L"%1 & %2"), L"Fill && <Base>");
+}
+
+TEST_F(ReplacedTexts, DoNotFillWhatANameBringsIn)
+{
+    sheet.entries.front().name = L"%1";
+
+    EXPECT_EQ(TitleFrom(L"%1: %2"), L"Fill: <%1>");
+}
+
+TEST_F(ReplacedTexts, AreFetchedForTheTitleAfterTheDisplayName)
+{
+    Target(panel, {&box});
+
+    EXPECT_THAT(
+        log.LinesOf({"text e14efa70", "stylesApp"}),
+        ElementsAre("stylesApp.GetDisplayStyleName(Base)", "text e14efa70-e60c-4529-b1d8-e5e8cc8d6c4a"));
+}
+
+TEST_F(ReplacedTexts, AreNotFetchedForATitleWithoutAStyle)
+{
+    Target(panel, {&base});
+
+    EXPECT_THAT(log.LinesOf({"text e14efa70"}), IsEmpty());
+}
+
+TEST_F(ReplacedTexts, AreFetchedForNoPresetInAPanelWithPresetsOnly)
+{
+    panel.SelectNoPreset();
+    EXPECT_THAT(log.LinesOf({"text"}), IsEmpty());
+
+    panel.presetCategory = L"FillPresets";
+    panel.SelectNoPreset();
+
+    EXPECT_THAT(log.LinesOf({"text"}), ElementsAre("text f5cefe53-8452-41c0-888b-b882ff5a4ba0"));
+}
+
+} // namespace
