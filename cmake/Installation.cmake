@@ -21,6 +21,33 @@ add_library(StyleProperties::Host ALIAS styleproperties_host)
 add_library(StyleProperties::Library ALIAS styleproperties)
 add_library(StyleProperties::ReferenceHost ALIAS styleproperties_reference_host)
 
+# What one needs to use the reference host as it is; how it is made stays here.
+target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
+    reference_host/data_binding/DataSourceLifetime.h
+    reference_host/data_binding/UiThread.h
+    reference_host/document/DocumentError.h
+    reference_host/document/Drawing.h
+    reference_host/document/DrawingObject.h
+    reference_host/document/DrawingPage.h
+    reference_host/document/PropertyMapping.h
+    reference_host/document/TextUnit.h
+    reference_host/resources/Language.h
+    reference_host/services/ActiveStyleSource.h
+    reference_host/services/Application.h
+    reference_host/services/DataContext.h
+    reference_host/services/DocumentStylesSource.h
+    reference_host/services/HostObject.h
+    reference_host/services/IConfirmation.h
+    reference_host/services/IDocumentStyles.h
+    reference_host/services/Idle.h
+    reference_host/services/LoadedModule.h
+    reference_host/services/PresetManager.h
+    reference_host/services/StylesApplication.h
+    reference_host/services/UserFolders.h
+    reference_host/services/UserInterface.h
+    reference_host/style_model/CategoryRegistry.h
+    reference_host/style_model/NamedStyleSheet.h)
+
 install(TARGETS styleproperties_host styleproperties EXPORT StylePropertiesLibrary
     FILE_SET HEADERS DESTINATION ${headers})
 install(TARGETS styleproperties_reference_host EXPORT StylePropertiesReferenceHost
