@@ -1,0 +1,69 @@
+// Data source classes of a module that did not come with the programs: one good panel, and several that
+// cannot be used as one.
+
+#include "datasource/BaseStylePropertiesDatasource.h"
+#include "host/data_binding/DataSource.h"
+#include "panels/PanelDatasource.h"
+#include "panels/PanelRegistration.h"
+
+#include <array>
+#include <stdexcept>
+
+namespace
+{
+
+constexpr std::array kShadowRows{
+    Panels::PanelRow{L"ShadowVisibility", L"visibility"},
+    Panels::PanelRow{L"ShadowColor", L"color"},
+    Panels::PanelRow{L"ShadowDistance", L"distance"},
+};
+
+} // namespace
+
+class ShadowPanelDatasource final : public Panels::PanelDatasource,
+                                    public DataSource<ShadowPanelDatasource, true>
+{
+public:
+    void FillDataSourceMap() { RegisterRows(kShadowRows); }
+
+protected:
+    [[nodiscard]] Styles::PropertyKey GetCategory() const override
+    {
+        return Styles::PropertyKey(Styles::PooledString<Styles::StringPool>(L"shadow"));
+    }
+};
+
+/// A panel that binds no rows.
+class HollowPanelDatasource final : public BaseStylePropertiesDatasource,
+                                    public DataSource<HollowPanelDatasource, true>
+{
+public:
+    void FillDataSourceMap() {}
+};
+
+/// A data source, but no panel.
+class ClockDatasource final : public DataSource<ClockDatasource, true>
+{
+public:
+    void FillDataSourceMap() {}
+};
+
+/// A panel that cannot be made.
+class FailingPanelDatasource final : public BaseStylePropertiesDatasource,
+                                     public DataSource<FailingPanelDatasource, true>
+{
+public:
+    FailingPanelDatasource() { throw std::runtime_error("the licence of this panel has run out"); }
+
+    void FillDataSourceMap() {}
+};
+
+namespace
+{
+
+const Panels::PanelRegistration<ShadowPanelDatasource> shadow;
+const Panels::PanelRegistration<HollowPanelDatasource> hollow;
+const Panels::PanelRegistration<ClockDatasource> clock;
+const Panels::PanelRegistration<FailingPanelDatasource> failing;
+
+} // namespace
