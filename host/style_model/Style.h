@@ -92,12 +92,12 @@ public:
     /// same answer here.
     [[nodiscard]] Style* GetSubstyle(const PropertyKey& key, bool walkingPath) const;
 
-    /// The substyle named `key`, created with `category` when missing; null only where it cannot be created,
-    /// which is nowhere in this host. One that is there keeps its category.
+    /// The substyle named `key`, created with `category` when missing; null where it cannot be created, which
+    /// in this host is only under the empty key. One that is there keeps its category.
     Style* GetSubstyleAndCreateIfMissing(const PropertyKey& key, const PropertyKey& category);
 
     /// Replaces the substyle named `key` by a copy of `substyle`; null removes it. A substyle that is
-    /// replaced stays the same object and is assigned to.
+    /// replaced stays the same object and is assigned to. Nothing is kept under the empty key.
     void SetSubstyle(const PropertyKey& key, const Style* substyle);
 
     /// Sets the parent, or clears it with null.

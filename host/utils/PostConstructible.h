@@ -18,7 +18,7 @@ public:
     virtual void PostConstruct();
 
     /// Queues `delegate` until the object is complete. Bases queue before what derives from them, so their
-    /// delegates run first.
+    /// delegates run first. What a running delegate queues runs too; what is queued after that never does.
     void CallOnPostConstruct(std::function<void()> delegate);
 
     /// Runs the queued delegates in order, then PostConstruct. For whoever created the object, after its

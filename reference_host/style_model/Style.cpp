@@ -141,6 +141,8 @@ Style* Style::GetSubstyle(const PropertyKey& key, [[maybe_unused]] bool walkingP
 
 Style* Style::GetSubstyleAndCreateIfMissing(const PropertyKey& key, const PropertyKey& category)
 {
+    if (key == PropertyKey::Empty)
+        return nullptr;
     if (Style* found = data->FindSubstyle(key))
         return found;
 
@@ -150,6 +152,9 @@ Style* Style::GetSubstyleAndCreateIfMissing(const PropertyKey& key, const Proper
 
 void Style::SetSubstyle(const PropertyKey& key, const Style* substyle)
 {
+    if (key == PropertyKey::Empty)
+        return;
+
     if (substyle == nullptr)
         data->Place(*this, key, nullptr);
     else if (Style* existing = data->FindSubstyle(key))

@@ -256,6 +256,18 @@ TEST(Style, RemovesASubstyleThatIsReplacedByNone)
     EXPECT_NE(style.GetSubstyle(Key(L"outline"), true), nullptr);
 }
 
+TEST(Style, HoldsNoSubstyleWithoutAName)
+{
+    Style style;
+    const Style model;
+
+    style.SetSubstyle(PropertyKey::Empty, &model);
+    style.SetPathProperty({PropertyKey::Empty, Key(L"color")}, Number(1));
+
+    EXPECT_EQ(style.GetSubstyleAndCreateIfMissing(PropertyKey::Empty, Key(L"fill")), nullptr);
+    EXPECT_TRUE(style.IsEmpty());
+}
+
 TEST(Style, MayHoldACopyOfItsOwnOwnerOrItself)
 {
     Style style(nullptr, Key(L"style"));
