@@ -34,9 +34,9 @@ public:
     [[nodiscard]] std::size_t Intern(OwnValues::Scope scope, Styles::Style* parent,
                                      std::span<const StyleRecord* const> levels);
 
-    /// A new whole style of a cascade, with all its substyles, that inherits from the cascade's parent and
-    /// falls back to the default style.
-    [[nodiscard]] std::unique_ptr<Styles::Style> Make(std::size_t cascade);
+    /// A new whole style of a cascade, by the number that Intern() gave, with all its substyles, that
+    /// inherits from the cascade's parent and falls back to the default style.
+    [[nodiscard]] std::unique_ptr<Styles::Style> Make(std::size_t number);
 
 private:
     struct Cascade

@@ -11,6 +11,7 @@
 #include <deque>
 #include <filesystem>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace ReferenceHost
@@ -19,8 +20,8 @@ namespace ReferenceHost
 /// The insides of a drawing. Later fields use earlier ones and go before them.
 struct DrawingData
 {
-    DrawingData(const std::filesystem::path& drawing, const std::vector<PropertyMapping>& extensions)
-        : path(drawing),
+    DrawingData(std::filesystem::path drawing, const std::vector<PropertyMapping>& extensions)
+        : path(std::move(drawing)),
           table(extensions),
           defaultStyle(MakeWholeStyle(nullptr, table)),
           cascades(table, *defaultStyle)

@@ -145,7 +145,7 @@ bool LooksLikeXml(std::string_view bytes)
     if (bytes.starts_with("\xFE\xFF") || bytes.starts_with("\xFF\xFE"))
         return true;
     const std::string_view text = WithoutByteOrderMark(bytes);
-    const auto first =
+    const auto* const first =
         std::ranges::find_if_not(text, [](char byte) { return IsXmlBlank(byte) || byte == '\0'; });
     return first != text.end() && *first == '<';
 }

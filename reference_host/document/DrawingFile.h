@@ -27,7 +27,7 @@ struct DrawingFile
 /// @throws DocumentError when the file is missing, not a file, unreadable, empty, beyond a limit, protected,
 /// or not
 ///         a drawing. XML is not looked at yet.
-[[nodiscard]] DrawingFile ReadDrawingFile(const std::filesystem::path& file);
+[[nodiscard]] DrawingFile ReadDrawingFile(const std::filesystem::path& path);
 
 /// The error for a file that the system does not let us read.
 [[nodiscard]] DocumentError CannotRead(const std::string& label, std::error_code reason);

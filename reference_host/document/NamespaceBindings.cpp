@@ -16,7 +16,7 @@ std::size_t SlotOf(std::string_view prefix, std::size_t slots)
         return 0;
     const auto first = static_cast<unsigned char>(prefix.front());
     const auto last = static_cast<unsigned char>(prefix.back());
-    return (prefix.size() * 7U + first * 31U + last) % slots;
+    return (prefix.size() * 7U + std::size_t{first} * 31U + last) % slots;
 }
 
 } // namespace

@@ -121,7 +121,7 @@ void ShapeReader::ReadStyle(pugi::xml_node element, DrawingObject& object)
     if (record == nullptr && !styleName.empty())
     {
         warnings.Add("style \"" + ReadableName(styleName) +
-                     "\": shapes refer to it, but it does not exist; they take \"standard\"");
+                     R"(": shapes refer to it, but it does not exist; they take "standard")");
     }
     Styles::Style* parent = standard;
     StyleLevels levels;
@@ -152,7 +152,7 @@ Styles::Style* ShapeReader::FindParent(const StyleRecord& automatic)
     if (named != nullptr && named->ownCategory.empty())
         return named->style;
     warnings.AddAbout(automatic, "its parent \"" + ReadableName(automatic.parentName) +
-                                     "\" does not exist; its shapes take \"standard\"");
+                                     R"(" does not exist; its shapes take "standard")");
     return standard;
 }
 

@@ -94,8 +94,7 @@ std::string_view XmlScanner::ScanName()
 {
     const std::size_t begin = place;
     if (AtEnd() || !IsXmlNameStartByte(Here()))
-        Fail("there is no name where one must stand",
-             "a name after \"<\"; \"&lt;\" for the character itself");
+        Fail("there is no name where one must stand", R"(a name after "<"; "&lt;" for the character itself)");
     std::size_t colons = 0;
     while (!AtEnd() && IsXmlNameByte(Here()))
     {

@@ -48,7 +48,7 @@ public:
 private:
     struct Close
     {
-        void operator()(zip* archive) const noexcept;
+        void operator()(zip* opened) const noexcept;
     };
 
     void CheckAnnouncedSizes() const;
