@@ -134,6 +134,7 @@ RuntimeType IReflectable::GetTypeOf(OvxStringViewT name) const
     return type;
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): commands change the object
 void IReflectable::Invoke(OvxStringViewT name)
 {
     ReferenceHost::UiThread::Check();

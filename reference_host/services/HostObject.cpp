@@ -21,6 +21,7 @@ void* HostObject::Query(const InterfaceId& id)
         return applicator;
     // The answer to this one is a number in the guise of a pointer; whoever asks takes its low 32 bits.
     if (id == kStyleApplicatorNumberId)
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the required form of the answer
         return reinterpret_cast<void*>(static_cast<std::intptr_t>(applicatorNumber));
     return nullptr;
 }

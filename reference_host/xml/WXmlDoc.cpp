@@ -3,6 +3,7 @@
 #include "host/utils/Utf8.h"
 #include "reference_host/xml/XmlNodeTree.h"
 
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>

@@ -68,7 +68,7 @@ void WXmlValueAccessor::SetInt(int value)
 OvxStringT WXmlValueAccessor::GetString(const OvxStringT& fallback) const
 {
     const pugi::xml_attribute attribute = FindAttribute(element, address);
-    return attribute ? OvxUtils::FromUtf8(attribute.value()) : fallback;
+    return attribute.empty() ? fallback : OvxUtils::FromUtf8(attribute.value());
 }
 
 bool WXmlValueAccessor::GetBool(bool fallback) const
