@@ -70,7 +70,7 @@ ValueOrigin PanelDatasource::ReadOrigin(Style& categoryStyle, const PropertyPath
     if (DoesOverrideProperty(&categoryStyle, path))
         return {Kind::Local, nullptr};
     if (const Style* setter = FindInheritedSetter(categoryStyle, path))
-        return {Kind::Inherited, &FindNamedStyle(*setter)};
+        return {Kind::Inherited, setter};
     return {categoryStyle.GetPathProperty(path).IsEmpty() ? Kind::Unset : Kind::Default, nullptr};
 }
 

@@ -55,6 +55,15 @@ const Style* FindDefaultsWithValue(const Style& categoryStyle, const PropertyPat
     return found;
 }
 
+/// The style that has the name of `style`: the outermost one that owns it, or itself.
+const Style& FindNamedStyle(const Style& style)
+{
+    const Style* outermost = &style;
+    while (outermost->GetOwner() != nullptr)
+        outermost = outermost->GetOwner();
+    return *outermost;
+}
+
 } // namespace
 
 OvxStringT DescribeOrigin(const ValueOrigin& origin)
@@ -71,14 +80,6 @@ OvxStringT DescribeOrigin(const ValueOrigin& origin)
         return L"default";
     }
     return OvxStringT();
-}
-
-const Style& FindNamedStyle(const Style& style)
-{
-    const Style* outermost = &style;
-    while (outermost->GetOwner() != nullptr)
-        outermost = outermost->GetOwner();
-    return *outermost;
 }
 
 OvxStringT FindSheetName(const Style& style)

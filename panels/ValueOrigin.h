@@ -24,8 +24,7 @@ struct ValueOrigin
 
     Kind kind = Kind::Unset;
 
-    /// The style that sets the value, as FindNamedStyle() gives it; null unless Inherited. Borrowed from the
-    /// host.
+    /// The style that sets the value, as a rule a substyle; null unless Inherited. Borrowed from the host.
     const Styles::Style* style = nullptr;
 
     friend bool operator==(const ValueOrigin&, const ValueOrigin&) = default;
@@ -35,10 +34,6 @@ struct ValueOrigin
 ///
 /// The name is the one that FindSheetName() gives, so that a style without a name leaves "style:" alone.
 [[nodiscard]] OvxStringT DescribeOrigin(const ValueOrigin& origin);
-
-/// The style that has the name of `style`: for a substyle the outermost one that owns it, else `style`
-/// itself.
-[[nodiscard]] const Styles::Style& FindNamedStyle(const Styles::Style& style);
 
 /// The name of a style in the sheet it lives in: that of the document, or for an external style the external
 /// one; a substyle has the name of the style that owns it.
