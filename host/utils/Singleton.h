@@ -7,7 +7,6 @@
 #include "host/utils/WriteLock.h"
 
 #include <atomic>
-#include <cstdlib>
 #include <typeindex>
 #include <typeinfo>
 
@@ -83,8 +82,6 @@ private:
 
     /// The registry's entry; null before first use and again after it was withdrawn. Atomic exchange only.
     static inline std::atomic<SingletonEntry*> g_pEntry = nullptr;
-
-    static inline std::atomic<bool> finalizerRegistered = false;
 };
 
 template <class T>
@@ -113,19 +110,22 @@ void Singleton<T>::ReleaseInstance(bool final)
         data->released = true;
 }
 
+// A static object and not std::atexit: not every runtime knows which module an exit routine belongs to, and
+// one that does not would run it when the process ends, after the module's code is gone.
 template <class T>
 void Singleton<T>::RegisterFinalizer()
 {
-    if (!finalizerRegistered.exchange(true))
-        std::atexit(&StaticFinalizer);
+    struct ModuleExit
+    {
+        ~ModuleExit() { StaticFinalizer(); }
+    };
+
+    static const ModuleExit atModuleExit;
 }
 
 template <class T>
 void Singleton<T>::StaticFinalizer()
 {
-    // An exit routine that runs later may ask for the instance again; what it makes is ended by a second
-    // round.
-    finalizerRegistered = false;
     SingletonLibrary::NotifySingletonModuleUnloaded(&StaticFinalizer);
 }
 
