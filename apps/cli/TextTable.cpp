@@ -64,8 +64,7 @@ std::vector<std::size_t> MeasureColumns(const std::vector<TextLine>& lines)
 
 void Append(std::string& output, const TextCell& cell, const OvxStringT& shown, Colouring colouring)
 {
-    const std::string_view sequence =
-        colouring == Colouring::On && !shown.empty() ? SequenceFor(cell.role) : "";
+    const std::string_view sequence = colouring == Colouring::On ? SequenceFor(cell.role) : "";
     if (!sequence.empty())
         output.append("\x1B[").append(sequence).append("m");
     output += OvxUtils::ToUtf8(shown);
@@ -81,13 +80,18 @@ std::string LayOut(const std::vector<TextLine>& lines, Colouring colouring)
     std::string output;
     for (const TextLine& line : lines)
     {
-        output.append(line.cells.empty() ? 0 : line.indent, ' ');
+        std::size_t padding = line.indent;
         for (std::size_t i = 0; i < line.cells.size(); ++i)
         {
             const OvxStringT shown = WithoutControls(line.cells[i].text);
-            Append(output, line.cells[i], shown, colouring);
-            if (i + 1 < line.cells.size())
-                output.append(widths[i] + kGap - DisplayWidth(shown) - (i == 0 ? line.indent : 0), ' ');
+            if (!shown.empty())
+            {
+                output.append(padding, ' ');
+                Append(output, line.cells[i], shown, colouring);
+                padding = 0;
+            }
+            const std::size_t taken = DisplayWidth(shown) + (i == 0 ? line.indent : 0);
+            padding += i + 1 < line.cells.size() ? widths[i] + kGap - taken : 0;
         }
         output += '\n';
     }

@@ -33,7 +33,7 @@ struct TextLine
 /// Lays out lines below each other: the cells of all lines that have several stand in columns.
 ///
 /// Widths are those on a terminal. Control characters are shown as U+FFFD, so that a name from a drawing can
-/// neither break a line nor talk to the terminal. The last cell of a line is not padded.
+/// neither break a line nor talk to the terminal. No line ends in blanks.
 ///
 /// @returns UTF-8, every line ended.
 [[nodiscard]] std::string LayOut(const std::vector<TextLine>& lines, Colouring colouring);
