@@ -94,7 +94,10 @@ std::vector<StyleRecord*> LinkParents(StyleCatalogue& catalogue, Warnings& warni
     std::vector<StyleRecord*> ordered;
     CycleCutter cutter(ordered, warnings);
     for (StyleRecord& record : catalogue.GetRecords())
-        cutter.Follow(record);
+    {
+        if (record.origin == StyleOrigin::Named || record.parent != nullptr)
+            cutter.Follow(record);
+    }
     return ordered;
 }
 

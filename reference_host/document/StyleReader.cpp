@@ -140,9 +140,11 @@ void StyleReader::ReadStyle(pugi::xml_node element, XmlNames& names, StyleOrigin
     record.ownParentName = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kParent});
     ReadProperties(element, names, record);
     // Programs repeat styles word for word; only a difference is worth a report.
-    if (catalogue.HasOther(record))
+    const StyleRecord* const earlier = catalogue.FindSame(record);
+    if (earlier == nullptr)
+        catalogue.Add(std::move(record));
+    else if (earlier->parentName != record.parentName || earlier->values != record.values)
         warnings.AddAbout(record, "it is there twice; the first one counts");
-    catalogue.Add(std::move(record));
 }
 
 void StyleReader::ReadProperties(pugi::xml_node styleElement, XmlNames& names, StyleRecord& record)

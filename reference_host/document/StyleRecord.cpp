@@ -5,19 +5,16 @@
 namespace ReferenceHost
 {
 
+const StyleRecord* StyleCatalogue::FindSame(const StyleRecord& record) const
+{
+    return Find(record.origin, record.family, record.name);
+}
+
 void StyleCatalogue::Add(StyleRecord record)
 {
-    if (Find(record.origin, record.family, record.name) != nullptr)
-        return;
     StyleRecord& added = records.emplace_back(std::move(record));
     byName[static_cast<std::size_t>(added.origin)][static_cast<std::size_t>(added.family)][added.name] =
         &added;
-}
-
-bool StyleCatalogue::HasOther(const StyleRecord& record) const
-{
-    const StyleRecord* const there = Find(record.origin, record.family, record.name);
-    return there != nullptr && (there->parentName != record.parentName || there->values != record.values);
 }
 
 const StyleRecord* StyleCatalogue::Find(StyleFamily family, std::string_view name) const

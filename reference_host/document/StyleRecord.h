@@ -62,12 +62,11 @@ struct StyleRecord
 class StyleCatalogue
 {
 public:
-    /// Adds a style unless there is one of its name, family and origin already.
-    void Add(StyleRecord record);
+    /// The style of the same name, family and origin; null when there is none.
+    [[nodiscard]] const StyleRecord* FindSame(const StyleRecord& record) const;
 
-    /// Tells whether there is a style of the same name, family and origin that sets or inherits something
-    /// else.
-    [[nodiscard]] bool HasOther(const StyleRecord& record) const;
+    /// Adds a style of which there is none the same.
+    void Add(StyleRecord record);
 
     /// A style of that name, automatic ones first; null when there is none.
     [[nodiscard]] const StyleRecord* Find(StyleFamily family, std::string_view name) const;
