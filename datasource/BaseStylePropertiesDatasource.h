@@ -17,7 +17,7 @@
 #include "host/utils/RepeatingCallback.h"
 #include "host/xml/WXmlDoc.h"
 #include "host/xml/WXmlNode.h"
-#include "module/Export.h"
+#include "module/LibraryExport.h"
 #include "module/IGetModifyStyles.h"
 
 #include <cstddef>

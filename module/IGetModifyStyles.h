@@ -2,7 +2,7 @@
 
 #include "host/style_model/PropertyPath.h"
 #include "host/style_model/Style.h"
-#include "module/Export.h"
+#include "module/LibraryExport.h"
 
 #include <cstddef>
 #include <memory>

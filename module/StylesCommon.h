@@ -1,6 +1,6 @@
 #pragma once
 
-#include "module/Export.h"
+#include "module/LibraryExport.h"
 
 class IOrvexCmn_App;
 class IStylesSource;
