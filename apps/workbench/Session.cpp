@@ -48,11 +48,14 @@ Session::Session(const std::filesystem::path& file, const std::vector<PanelDescr
       context(&hostObject, nullptr)
 {
     application.OpenDocument(&stylesSource, &drawingStyles);
+    // The panels of a session edit the objects of its drawing: theirs is the host's current context.
+    application.SetObjectPropertiesContext(&context);
 }
 
 Session::~Session()
 {
     panels.clear();
+    application.SetObjectPropertiesContext(nullptr);
     application.CloseDocument();
 }
 

@@ -189,6 +189,13 @@ TEST(InspectedObject, HasEveryPropertyThatIsANumberOrATextInOrder)
     EXPECT_EQ(properties.at("SectionTitle"), "Style: Mid One");
 }
 
+TEST(InspectedObject, IsEditedInTheContextOfObjectProperties)
+{
+    const Json properties = PanelOf(DrawingOnDisk(Chain()).Report(), "style").at("properties");
+
+    EXPECT_EQ(properties.at("IsObjectProperties"), 1);
+}
+
 TEST(InspectedObject, LinksAColourToItsPaletteEntry)
 {
     const DrawingOnDisk drawing(
