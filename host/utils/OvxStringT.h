@@ -50,7 +50,7 @@ public:
     [[nodiscard]] int Compare(OvxStringViewT other, CompareCase compareCase = CompareCase::Sensitive) const;
 
     /// Fills a pattern that takes one number: its first "%d" or "%i", with or without flags ("-", "+", " ",
-    /// "0") and a width, becomes `value`, and "%%" one percent sign.
+    /// "0") and a width up to 100, becomes `value`, and "%%" one percent sign.
     ///
     /// Everything else stays as it is, so that no pattern, however wrong, is a danger.
     [[nodiscard]] static OvxWideString Format(const wchar_t* pattern, int value);

@@ -44,7 +44,7 @@ public:
     static void RegisterFinalizer();
 
     /// Tells the registry that this module is going. Its own address is the module's name there.
-    static void StaticFinalizer();
+    static void StaticFinalizer() { SingletonLibrary::NotifySingletonModuleUnloaded(&StaticFinalizer); }
 
 private:
     /// What all modules share.
@@ -60,12 +60,19 @@ private:
     };
 
     /// The callback by which the registry withdraws the entry; takes itself off the registry when the module
-    /// goes.
+    /// goes. It goes after the finaliser, and ends what other exit routines asked for in between.
     struct WithdrawCallback
     {
         basic_safe_function<void()> function{[] { g_pEntry.exchange(nullptr); }};
 
-        ~WithdrawCallback() { SingletonLibrary::RemoveCallback(Type(), function.GetToken()); }
+        ~WithdrawCallback();
+    };
+
+    /// Runs the finaliser when the module goes. A static object and not an exit routine, because those may be
+    /// kept until the process ends, long after the module.
+    struct FinalizerAtExit
+    {
+        ~FinalizerAtExit() { StaticFinalizer(); }
     };
 
     static std::type_index Type() { return typeid(Singleton<T>); }
@@ -115,18 +122,16 @@ void Singleton<T>::ReleaseInstance(bool final)
 template <class T>
 void Singleton<T>::RegisterFinalizer()
 {
-    struct ModuleExit
-    {
-        ~ModuleExit() { StaticFinalizer(); }
-    };
-
-    static const ModuleExit atModuleExit;
+    static const FinalizerAtExit atExit;
 }
 
 template <class T>
-void Singleton<T>::StaticFinalizer()
+Singleton<T>::WithdrawCallback::~WithdrawCallback()
 {
-    SingletonLibrary::NotifySingletonModuleUnloaded(&StaticFinalizer);
+    SingletonEntry* const entry = g_pEntry.load();
+    if (entry != nullptr && entry->data.load() != nullptr && entry->finalizer == &StaticFinalizer)
+        StaticFinalizer();
+    SingletonLibrary::RemoveCallback(Type(), function.GetToken());
 }
 
 template <class T>

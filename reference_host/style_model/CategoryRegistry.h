@@ -37,7 +37,7 @@ public:
     /// Adds properties to a category, those it has already left out. The category need not be known; the
     /// properties of one that never becomes known only answer GetProperties().
     void RegisterProperties(const Styles::PropertyKey& category,
-                            const std::vector<Styles::PropertyKey>& properties);
+                            const std::vector<Styles::PropertyKey>& added);
 
     /// The category of that name; null for one that is not known. The same object at each call.
     [[nodiscard]] std::shared_ptr<Styles::StyleCategory>

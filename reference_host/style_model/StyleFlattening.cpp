@@ -2,6 +2,7 @@
 #include "reference_host/style_model/StyleData.h"
 #include "reference_host/style_model/StyleResolution.h"
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -21,12 +22,8 @@ struct NamedCategory
 
 bool Holds(const std::vector<NamedCategory>& substyles, const PropertyKey& name)
 {
-    for (const NamedCategory& substyle : substyles)
-    {
-        if (substyle.name == name)
-            return true;
-    }
-    return false;
+    return std::ranges::any_of(substyles,
+                               [&name](const NamedCategory& substyle) { return substyle.name == name; });
 }
 
 /// Copies into `flattened` every effective value at the place `below` under `style`, and what lies under it.

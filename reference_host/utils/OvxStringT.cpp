@@ -1,8 +1,7 @@
 #include "host/utils/OvxStringT.h"
 
 #include <algorithm>
-#include <array>
-#include <cwchar>
+#include <cstdlib>
 #include <cwctype>
 
 namespace
@@ -37,14 +36,28 @@ std::size_t FindConversionEnd(OvxStringViewT pattern, std::size_t begin)
     return converts ? end + 1 : begin;
 }
 
-std::wstring FormatInt(OvxStringViewT conversion, int value)
+/// Fills a conversion that FindConversionEnd found.
+std::wstring FormatInt(std::wstring_view conversion, int value)
 {
-    // More than any number needs; a width beyond it is no width for a number in a text.
-    std::array<wchar_t, 128> buffer{};
-    const std::wstring format(conversion);
-    const int length = std::swprintf(buffer.data(), buffer.size(), format.c_str(), value);
-    return length < 0 ? std::to_wstring(value)
-                      : std::wstring(buffer.data(), static_cast<std::size_t>(length));
+    constexpr std::size_t kWidest = 100;
+    const std::size_t widthBegin = conversion.find_first_not_of(L"-+ 0", 1);
+    const std::wstring_view flags = conversion.substr(0, widthBegin);
+    const auto has = [flags](wchar_t flag) { return flags.find(flag) != std::wstring_view::npos; };
+
+    std::size_t width = 0;
+    for (const wchar_t digit : conversion.substr(widthBegin, conversion.size() - widthBegin - 1))
+        width = std::min(kWidest, width * 10 + static_cast<std::size_t>(digit - L'0'));
+
+    const std::wstring positiveSign = has(L'+') ? L"+" : (has(L' ') ? L" " : L"");
+    const std::wstring sign = value < 0 ? L"-" : positiveSign;
+    const std::wstring digits = std::to_wstring(std::abs(static_cast<long long>(value)));
+    const std::size_t length = sign.size() + digits.size();
+    const std::size_t padding = width > length ? width - length : 0;
+    if (has(L'-'))
+        return sign + digits + std::wstring(padding, L' ');
+    if (has(L'0'))
+        return sign + std::wstring(padding, L'0') + digits;
+    return std::wstring(padding, L' ') + sign + digits;
 }
 
 } // namespace

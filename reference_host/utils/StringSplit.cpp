@@ -1,7 +1,9 @@
 #include "host/utils/StringSplit.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cwctype>
+#include <string_view>
 
 namespace OvxUtils::String
 {
@@ -23,15 +25,15 @@ std::vector<OvxStringT> Split(OvxStringViewT text, wchar_t separator, bool keepE
     { return caseSensitive ? character == separator : FoldCase(character) == FoldCase(separator); };
 
     std::vector<OvxStringT> pieces;
-    auto begin = text.begin();
-    for (;;)
+    for (std::size_t begin = 0;;)
     {
-        const auto end = std::find_if(begin, text.end(), separates);
-        if (keepEmptyPieces || begin != end)
-            pieces.emplace_back(std::wstring(begin, end));
-        if (end == text.end())
+        const std::wstring_view rest = text.substr(begin);
+        const auto length = static_cast<std::size_t>(std::ranges::find_if(rest, separates) - rest.begin());
+        if (keepEmptyPieces || length != 0)
+            pieces.emplace_back(rest.substr(0, length));
+        begin += length + 1;
+        if (begin > text.size())
             return pieces;
-        begin = end + 1;
     }
 }
 

@@ -66,7 +66,7 @@ char32_t DecodeUtf8(std::string_view utf8, std::size_t& position) noexcept
         const auto next = static_cast<std::uint8_t>(utf8[position]);
         if (next < (i == 1 ? shape->secondLow : 0x80) || next > (i == 1 ? shape->secondHigh : 0xBF))
             return kReplacementCharacter;
-        value = (value << 6) | (next & 0x3Fu);
+        value = (value << 6) | (next & 0x3FU);
         ++position;
     }
     return value;

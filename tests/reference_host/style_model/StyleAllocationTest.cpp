@@ -36,22 +36,23 @@ void* operator new[](std::size_t size)
     return Allocate(size);
 }
 
-void operator delete(void* memory) noexcept
+// Not inlined: compilers that see only half of a pair think it mismatched.
+[[gnu::noinline]] void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete[](void* memory) noexcept
+[[gnu::noinline]] void operator delete[](void* memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void* memory, std::size_t) noexcept
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }
 
-void operator delete[](void* memory, std::size_t) noexcept
+[[gnu::noinline]] void operator delete[](void* memory, std::size_t) noexcept
 {
     std::free(memory);
 }

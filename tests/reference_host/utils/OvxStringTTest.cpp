@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -134,7 +135,17 @@ TEST(OvxString, FormatsANumberIntoAPattern)
     EXPECT_EQ(OvxStringT::Format(L"Style %i", -3), L"Style -3");
     EXPECT_EQ(OvxStringT::Format(L"%03d|", 7), L"007|");
     EXPECT_EQ(OvxStringT::Format(L"%-4d|", 7), L"7   |");
+    EXPECT_EQ(OvxStringT::Format(L"%4d|", 7), L"   7|");
+    EXPECT_EQ(OvxStringT::Format(L"%04d", -7), L"-007");
+    EXPECT_EQ(OvxStringT::Format(L"%2d", 12345), L"12345");
     EXPECT_EQ(OvxStringT::Format(L"%+d", 7), L"+7");
+    EXPECT_EQ(OvxStringT::Format(L"% d", 7), L" 7");
+    EXPECT_EQ(OvxStringT::Format(L"%d", std::numeric_limits<int>::min()), L"-2147483648");
+}
+
+TEST(OvxString, FormatsNoWiderThanAnyNumberNeeds)
+{
+    EXPECT_EQ(OvxStringT::Format(L"%999999999d", 7).size(), 100u);
 }
 
 TEST(OvxString, FormatsTheFirstNumberAloneAndPercentSigns)
