@@ -200,6 +200,22 @@ TEST_P(SingletonModules, MakeAFreshInstanceAfterARelease)
     EXPECT_EQ(events.made, 2);
 }
 
+TEST_P(SingletonModules, EndWhatTheirExitRoutinesAskedForLate)
+{
+    LoadedModule maker(MakerPath(), events);
+    // Statics go in the reverse order: the finaliser, the late question, the callback that the first query
+    // made.
+    (void)maker->hasInstance();
+    maker->askWhileUnloading();
+    maker->getInstance();
+
+    maker.Unload();
+
+    EXPECT_FALSE(maker.IsInMemory());
+    EXPECT_EQ(events.made, 2);
+    EXPECT_EQ(events.ended, 2);
+}
+
 TEST_P(SingletonModules, AreUnloadedThoughNeverUsed)
 {
     LoadedModule maker(MakerPath(), events);

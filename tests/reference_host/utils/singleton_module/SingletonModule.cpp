@@ -30,6 +30,15 @@ namespace
 
 using SharedSingleton = OvxUtils::Singleton<SharedObject>;
 
+struct LateQuestion
+{
+    LateQuestion() = default;
+    LateQuestion(const LateQuestion&) = delete;
+    LateQuestion& operator=(const LateQuestion&) = delete;
+
+    ~LateQuestion() { (void)SharedSingleton::GetInstance(); }
+};
+
 void StoreValues(OvxUtils::Any& number, OvxUtils::Any& text, OvxUtils::Any& key, OvxUtils::Any& colour)
 {
     number = OvxUtils::Any(7);
@@ -44,6 +53,7 @@ constexpr SingletonModule kModule{
     [] { return SharedSingleton::GetInstance().GetAnswer(); },
     [] { return SharedSingleton::HasInstance(); },
     [](bool final) { SharedSingleton::ReleaseInstance(final); },
+    [] { static const LateQuestion late; },
     &StoreValues,
 };
 

@@ -26,6 +26,9 @@ struct SingletonModule
     bool (*hasInstance)();
     void (*releaseInstance)(bool final);
 
+    /// Makes the module ask for the instance once more while it is unloaded.
+    void (*askWhileUnloading)();
+
     /// Stores values of the types that styles hold, made by code of this module.
     void (*storeValues)(OvxUtils::Any& number, OvxUtils::Any& text, OvxUtils::Any& key,
                         OvxUtils::Any& colour);
