@@ -138,7 +138,7 @@ protected:
     const PropertyKey kColor = Key(L"color");
     const Any red{CLR_COLORSPEC::FromRgb({255, 0, 0})};
     const Any blue{CLR_COLORSPEC::FromRgb({0, 0, 255})};
-    const Any none;
+    const Any none{};
 };
 
 TEST_F(Ambiguity, NeverHoldsForOneTargetWhateverIsForced)

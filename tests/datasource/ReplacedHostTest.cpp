@@ -177,7 +177,10 @@ TEST_F(ReplacedTexts, PutCategoryAndStyleWhereThePatternHasThem)
 
 TEST_F(ReplacedTexts, GiveTheCategoryAloneForAnEmptyPattern)
 {
-    EXPECT_EQ(TitleFrom(L""), L"Fill");
+    replacements.texts[L"category.fill"] = L"Lines & Fills";
+
+    EXPECT_EQ(TitleFrom(L""), L"Lines && Fills")
+        << "as a title of new targets, not as one that is filled in later";
 }
 
 TEST_F(ReplacedTexts, DoubleTheAmpersandsOfThePatternToo)

@@ -104,7 +104,7 @@ TEST_F(StyleEditing, ClimbsFromASubstyleToTheWholeStyleThatOwnsIt)
     EXPECT_FALSE(IsEnabledFor({&FillOf(box)})) << "the owner's parent is looked at";
 }
 
-TEST_F(StyleEditing, ClimbsToTheParentRatherThanToTheOwner)
+TEST_F(StyleEditing, ClimbsPastAnOwnerWhereThereIsAParent)
 {
     Style& library = styles.WithFill("library");
     Close(library);
@@ -113,7 +113,18 @@ TEST_F(StyleEditing, ClimbsToTheParentRatherThanToTheOwner)
     FillOf(box).SetParent(&FillOf(base));
 
     EXPECT_TRUE(IsEnabledFor({&FillOf(box)}))
-        << "the way leads through the parent to its owner, past the closed parent of the own owner";
+        << "the way leads to the parent's owner; the closed one is not on it";
+}
+
+TEST_F(StyleEditing, ClimbsToTheParentRatherThanToTheOwner)
+{
+    Style& box = styles.WithFill("box");
+    Style& base = styles.WithFill("base");
+    Close(base);
+    FillOf(box).SetParent(&FillOf(base));
+
+    EXPECT_FALSE(IsEnabledFor({&FillOf(box)}))
+        << "the parent's owner is closed, although the own owner is not";
 }
 
 TEST_F(StyleEditing, LooksNoFurtherThanWhereAParentLed)
@@ -225,6 +236,16 @@ TEST_F(StyleEditingWithinAFrame, AsksAboutTheShownStylesOwnCategoryWhenThatIsClo
     panel.givesTargetStyle = [&closed](std::size_t) { return &closed; };
 
     EXPECT_TRUE(IsEnabledFor({&frame})) << "the frame's fill and its parent are open";
+}
+
+TEST_F(StyleEditingWithinAFrame, GoesFromAStyleToItsParentRatherThanToItsOwner)
+{
+    Style& closed = styles.OfCategory("closed", FillStyleCategoryName);
+    Close(closed);
+    fill.SetParent(&closed);
+    panel.givesTargetStyle = [&closed](std::size_t) { return &closed; };
+
+    EXPECT_FALSE(IsEnabledFor({&frame})) << "the frame is open, the fill's parent is not";
 }
 
 TEST_F(StyleEditingWithinAFrame, GoesFromAStyleWithoutAParentToItsOwnerAndThenToTheOwnersParent)
