@@ -17,6 +17,7 @@ TEST(EncodedNames, HoldAnyCharacterThatNamesOfXmlCannot)
     EXPECT_EQ(DecodeStyleName("a_2f_b_28_c_29_"), OvxStringT(L"a/b(c)"));
     EXPECT_EQ(DecodeStyleName("Gr_fc_n"), OvxStringT(L"Gr\u00fcn"));
     EXPECT_EQ(DecodeStyleName("_1f600_"), OvxStringT(L"\U0001F600"));
+    EXPECT_EQ(DecodeStyleName("5_20ac_"), OvxStringT(L"5\u20ac"));
     EXPECT_EQ(DecodeStyleName("_26_"), OvxStringT(L"&"));
 }
 

@@ -104,6 +104,15 @@ TEST(ZipArchive, RefusesAnEncryptedEntry)
     EXPECT_EQ(error.GetWhere(), "x.odg, content.xml");
 }
 
+TEST(ZipArchive, RefusesAWayOfPackingThatNobodyKnows)
+{
+    const DocumentError error =
+        ErrorOfReading(ZipBuilder().Add("content.xml", "text").ClaimMethod(77).Build(), "content.xml");
+
+    EXPECT_THAT(error.GetProblem(), HasSubstr("the entry cannot be unpacked"));
+    EXPECT_EQ(error.GetWhere(), "x.odg, content.xml");
+}
+
 TEST(ZipArchive, RefusesTwoEntriesOfOneName)
 {
     const DocumentError error =

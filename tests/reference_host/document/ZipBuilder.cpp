@@ -61,6 +61,12 @@ ZipBuilder& ZipBuilder::ClaimChecksum(std::uint32_t checksum)
     return *this;
 }
 
+ZipBuilder& ZipBuilder::ClaimMethod(std::uint16_t method)
+{
+    entries.back().method = method;
+    return *this;
+}
+
 ZipBuilder& ZipBuilder::ClaimEncryption()
 {
     entries.back().flags = 1;

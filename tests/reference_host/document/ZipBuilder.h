@@ -23,6 +23,9 @@ public:
     /// Makes the last entry claim another checksum.
     ZipBuilder& ClaimChecksum(std::uint32_t checksum);
 
+    /// Makes the last entry claim another way of packing.
+    ZipBuilder& ClaimMethod(std::uint16_t method);
+
     /// Makes the last entry claim to be encrypted.
     ZipBuilder& ClaimEncryption();
 
