@@ -71,7 +71,7 @@ struct TargetReport
     OvxStringT kind;
     OvxStringT style;                ///< The named style; empty without one.
     std::vector<OvxStringT> parents; ///< What the named style inherits from, nearest first.
-    std::size_t units = 0;           ///< The runs of its text.
+    std::size_t units = 0;           ///< The paragraphs and runs of its text.
 };
 
 /// What panels show for a selection.

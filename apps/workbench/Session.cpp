@@ -33,7 +33,7 @@ TargetReport DescribeTarget(const TargetHandover& handover, ReferenceHost::Drawi
     target.kind = OvxStringT(object.GetKind());
     target.style = handover.NamedStyleOf(object);
     target.parents = handover.AncestorsOf(target.style);
-    target.units = object.GetRuns().size();
+    target.units = object.GetParagraphs().size() + object.GetRuns().size();
     return target;
 }
 

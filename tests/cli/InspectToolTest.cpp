@@ -70,7 +70,7 @@ TEST(InspectedObject, IsDescribedWithItsStyleAndItsAncestors)
     const Json selection = DrawingOnDisk(Chain()).Report().at("selection");
 
     EXPECT_EQ(selection.dump(), R"({"selector":"all","targets":[{"id":"1/1","name":"Box","kind":"rect",)"
-                                R"("style":"Mid One","parents":["standard"],"units":1}]})");
+                                R"("style":"Mid One","parents":["standard"],"units":2}]})");
 }
 
 TEST(InspectedObject, ShowsItsFill)
@@ -262,7 +262,7 @@ TEST(InspectedObjects, ReportedEachAreReportedAsByTheirIds)
     EXPECT_EQ(reports.at(1), drawing.Report({"--select", "id:1/2"}));
 }
 
-TEST(InspectedObjects, CountTheRunsOfTheirText)
+TEST(InspectedObjects, CountTheParagraphsAndRunsOfTheirText)
 {
     const DrawingOnDisk drawing(
         FlatDrawing()
@@ -272,7 +272,7 @@ TEST(InspectedObjects, CountTheRunsOfTheirText)
 
     const Json targets = drawing.Report().at("selection").at("targets");
 
-    EXPECT_EQ(targets.at(0).at("units"), 4);
+    EXPECT_EQ(targets.at(0).at("units"), 6); // two paragraphs; "one", "two", "three" and "four"
     EXPECT_EQ(targets.at(1).at("units"), 0);
 }
 
