@@ -198,7 +198,8 @@ TEST(Any, EndsEveryValueThatItHeld)
         Any first{Tracked(living)};
         Any second = first;
         second = Any(4);
-        first = first; // NOLINT(clang-diagnostic-self-assign-overloaded): it must survive.
+        const Any& same = first;
+        first = same;
         Any third = std::move(first);
         EXPECT_EQ(living, 1);
         third = Any(Tracked(living));
