@@ -17,8 +17,8 @@
 #include "host/utils/RepeatingCallback.h"
 #include "host/xml/WXmlDoc.h"
 #include "host/xml/WXmlNode.h"
-#include "module/LibraryExport.h"
 #include "module/IGetModifyStyles.h"
+#include "module/LibraryExport.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -26,7 +26,7 @@ std::size_t HashOf(OwnValues::Scope scope, const Styles::Style* parent,
 
 } // namespace
 
-CascadeStyles::CascadeStyles(const PropertyTable& properties, Styles::Style& defaultStyle)
+CascadeStyles::CascadeStyles(const PropertyMappings& properties, Styles::Style& defaultStyle)
     : table(properties), defaults(defaultStyle)
 {
 }
@@ -77,7 +77,7 @@ std::unique_ptr<Styles::Style> CascadeStyles::Build(const Cascade& cascade) cons
     return style;
 }
 
-std::unique_ptr<Styles::Style> MakeWholeStyle(Styles::Style* parent, const PropertyTable& table)
+std::unique_ptr<Styles::Style> MakeWholeStyle(Styles::Style* parent, const PropertyMappings& table)
 {
     auto style = std::make_unique<Styles::Style>(parent, Styles::StyleCategoryName);
     for (const Styles::PropertyKey& category : table.GetCategories())

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "reference_host/document/OwnValues.h"
-#include "reference_host/document/PropertyTable.h"
+#include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
 
 #include "host/style_model/Style.h"
@@ -25,7 +25,7 @@ class CascadeStyles
 {
 public:
     /// Borrows both.
-    CascadeStyles(const PropertyTable& properties, Styles::Style& defaultStyle);
+    CascadeStyles(const PropertyMappings& properties, Styles::Style& defaultStyle);
     CascadeStyles(const CascadeStyles&) = delete;
     CascadeStyles& operator=(const CascadeStyles&) = delete;
 
@@ -50,7 +50,7 @@ private:
 
     [[nodiscard]] std::unique_ptr<Styles::Style> Build(const Cascade& cascade) const;
 
-    const PropertyTable& table;
+    const PropertyMappings& table;
     Styles::Style& defaults;
     std::vector<Cascade> cascades;
     std::unordered_multimap<std::size_t, std::size_t> numbersByHash;
@@ -58,6 +58,6 @@ private:
 
 /// A new whole style with an empty substyle for each category.
 [[nodiscard]] std::unique_ptr<Styles::Style> MakeWholeStyle(Styles::Style* parent,
-                                                            const PropertyTable& table);
+                                                            const PropertyMappings& table);
 
 } // namespace ReferenceHost

@@ -14,7 +14,7 @@ namespace
 {
 
 /// Tells the process what categories and properties drawings have.
-void RegisterProperties(const PropertyTable& table)
+void RegisterProperties(const PropertyMappings& table)
 {
     CategoryRegistry& registry = CategoryRegistry::GetInstance();
     for (const Styles::PropertyKey& category : table.GetCategories())

@@ -4,7 +4,7 @@
 #include "reference_host/document/Drawing.h"
 #include "reference_host/document/DrawingFile.h"
 #include "reference_host/document/NamedStyles.h"
-#include "reference_host/document/PropertyTable.h"
+#include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
 #include "reference_host/style_model/NamedStyleSheet.h"
 
@@ -30,7 +30,7 @@ struct DrawingData
 
     std::filesystem::path path;
     DrawingFile file; ///< The bytes as they were read: edits are spliced into them.
-    PropertyTable table;
+    PropertyMappings table;
     std::vector<PaletteEntry> palette;
     StyleCatalogue catalogue;
     std::unique_ptr<Styles::Style> defaultStyle; ///< Never null.

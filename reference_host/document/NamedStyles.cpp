@@ -19,7 +19,7 @@ namespace ReferenceHost
 namespace
 {
 
-void WriteValues(Styles::Style& style, const StyleRecord& record, const PropertyTable& table,
+void WriteValues(Styles::Style& style, const StyleRecord& record, const PropertyMappings& table,
                  Warnings& warnings)
 {
     OwnValues values(table, OwnValues::Scope::All);
@@ -34,14 +34,14 @@ void WriteValues(Styles::Style& style, const StyleRecord& record, const Property
 
 } // namespace
 
-void FillDefaultStyle(Styles::Style& defaults, const StyleRecord* record, const PropertyTable& table,
+void FillDefaultStyle(Styles::Style& defaults, const StyleRecord* record, const PropertyMappings& table,
                       Warnings& warnings)
 {
     if (record != nullptr)
         WriteValues(defaults, *record, table, warnings);
 }
 
-NamedStyleBuilder::NamedStyleBuilder(const PropertyTable& properties, Styles::Style& defaultStyle,
+NamedStyleBuilder::NamedStyleBuilder(const PropertyMappings& properties, Styles::Style& defaultStyle,
                                      NamedStyleSheet& target, StyleAppearances& appearanceTarget,
                                      Warnings& reports)
     : table(properties),

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference_host/document/PropertyTable.h"
+#include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
 #include "reference_host/document/Warnings.h"
 #include "reference_host/style_model/NamedStyleSheet.h"
@@ -24,7 +24,7 @@ struct StyleAppearance
 using StyleAppearances = std::unordered_map<OvxStringT, StyleAppearance>;
 
 /// Fills the default style with what the file sets there; null sets nothing.
-void FillDefaultStyle(Styles::Style& defaults, const StyleRecord* record, const PropertyTable& table,
+void FillDefaultStyle(Styles::Style& defaults, const StyleRecord* record, const PropertyMappings& table,
                       Warnings& warnings);
 
 /// Turns the named graphic styles of the file into styles of a sheet.
@@ -35,8 +35,8 @@ class NamedStyleBuilder
 {
 public:
     /// Borrows everything. `defaults` is complete.
-    NamedStyleBuilder(const PropertyTable& properties, Styles::Style& defaultStyle, NamedStyleSheet& target,
-                      StyleAppearances& appearanceTarget, Warnings& reports);
+    NamedStyleBuilder(const PropertyMappings& properties, Styles::Style& defaultStyle,
+                      NamedStyleSheet& target, StyleAppearances& appearanceTarget, Warnings& reports);
 
     /// Adds all named graphic styles to the sheet in the order of the file, links them, and sets their
     /// values. Afterwards each record points to its style.
@@ -47,7 +47,7 @@ private:
     [[nodiscard]] OvxStringT PickName(const StyleRecord& record);
     void Complete(const StyleRecord& record);
 
-    const PropertyTable& table;
+    const PropertyMappings& table;
     Styles::Style& defaults;
     NamedStyleSheet& sheet;
     StyleAppearances& appearances;

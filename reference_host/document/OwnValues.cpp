@@ -9,7 +9,7 @@
 namespace ReferenceHost
 {
 
-OwnValues::OwnValues(const PropertyTable& properties, Scope wanted)
+OwnValues::OwnValues(const PropertyMappings& properties, Scope wanted)
     : table(properties), scope(wanted), places(properties.GetRows().size())
 {
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reference_host/document/PropertyTable.h"
+#include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
 
 #include "host/style_model/Style.h"
@@ -23,7 +23,7 @@ public:
     };
 
     /// Borrows the table.
-    OwnValues(const PropertyTable& properties, Scope wanted);
+    OwnValues(const PropertyMappings& properties, Scope wanted);
 
     /// Adds the values of the next style, which count where nearer ones leave something open.
     void Add(const StyleRecord& record);
@@ -47,7 +47,7 @@ private:
 
     static void Complete(Gathered& open, const OvxUtils::Any& value);
 
-    const PropertyTable& table;
+    const PropertyMappings& table;
     Scope scope;
     std::vector<Gathered> gathered;
     std::vector<std::size_t> places; ///< For each row, one more than its place in `gathered`; 0 without one.

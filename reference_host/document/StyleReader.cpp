@@ -17,7 +17,7 @@ namespace ReferenceHost
 namespace
 {
 
-/// An element that defines names, and the kind that the PropertyTable calls them by.
+/// An element that defines names, and the kind that the PropertyMappings calls them by.
 struct Definition
 {
     XmlName element;
@@ -48,7 +48,7 @@ bool HoldsElement(StyleFamily family, PropertyElement element)
     return static_cast<int>(element) >= static_cast<int>(family);
 }
 
-std::size_t FindTextColourRow(const PropertyTable& table)
+std::size_t FindTextColourRow(const PropertyMappings& table)
 {
     const Styles::PropertyKey color(Styles::PooledString<Styles::StringPool>(L"color"));
     const PropertyMapping* const row = table.FindRow(Styles::GetCharacterStyleCategoryName(), color);
@@ -57,7 +57,7 @@ std::size_t FindTextColourRow(const PropertyTable& table)
 
 } // namespace
 
-StyleReader::StyleReader(const PropertyTable& properties, const PaletteColours& colours,
+StyleReader::StyleReader(const PropertyMappings& properties, const PaletteColours& colours,
                          StyleCatalogue& target, Warnings& reports)
     : table(properties),
       palette(colours),

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "reference_host/document/PropertyCodecs.h"
-#include "reference_host/document/PropertyTable.h"
+#include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
 #include "reference_host/document/Warnings.h"
 #include "reference_host/document/XmlNames.h"
@@ -28,7 +28,7 @@ class StyleReader
 {
 public:
     /// Borrows everything.
-    StyleReader(const PropertyTable& properties, const PaletteColours& colours, StyleCatalogue& target,
+    StyleReader(const PropertyMappings& properties, const PaletteColours& colours, StyleCatalogue& target,
                 Warnings& reports);
 
     /// Reads the font faces, gradients, hatches, fill images, dashes and markers that a document declares, in
@@ -66,7 +66,7 @@ private:
     void KeepFirstRows(std::vector<StyleValue>& values) const;
     void LinkColour(const ColourLink& link, StyleRecord& record);
 
-    const PropertyTable& table;
+    const PropertyMappings& table;
     const PaletteColours& palette;
     StyleCatalogue& catalogue;
     Warnings& warnings;

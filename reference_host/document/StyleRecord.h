@@ -31,7 +31,7 @@ enum class StyleOrigin
 /// One property as a style of the file sets it.
 struct StyleValue
 {
-    std::size_t row = 0;           ///< The property's first row in the PropertyTable.
+    std::size_t row = 0;           ///< The property's first row in the PropertyMappings.
     OvxUtils::Any value;           ///< Empty when the value depends on the inherited one.
     double percentOfInherited = 0; ///< What is taken of the inherited value, when not 0.
 

@@ -1,4 +1,4 @@
-#include "reference_host/document/PropertyTable.h"
+#include "reference_host/document/PropertyMappings.h"
 
 #include "reference_host/document/OdfNamespaces.h"
 
@@ -225,7 +225,7 @@ std::optional<PropertyElement> FindPropertyElement(std::string_view localName)
     return static_cast<PropertyElement>(found - kElementNames.begin());
 }
 
-PropertyTable::PropertyTable(const std::vector<PropertyMapping>& extensions) : rows(BuiltInProperties())
+PropertyMappings::PropertyMappings(const std::vector<PropertyMapping>& extensions) : rows(BuiltInProperties())
 {
     rows.insert(rows.end(), extensions.begin(), extensions.end());
     for (std::size_t place = 0; place < rows.size(); ++place)
@@ -238,14 +238,14 @@ PropertyTable::PropertyTable(const std::vector<PropertyMapping>& extensions) : r
     }
 }
 
-const std::vector<std::size_t>& PropertyTable::FindRows(std::string_view attribute) const
+const std::vector<std::size_t>& PropertyMappings::FindRows(std::string_view attribute) const
 {
     static const std::vector<std::size_t> none;
     const auto found = rowsByAttribute.find(attribute);
     return found == rowsByAttribute.end() ? none : found->second;
 }
 
-const PropertyMapping* PropertyTable::FindRow(Styles::PropertyKey category, Styles::PropertyKey key) const
+const PropertyMapping* PropertyMappings::FindRow(Styles::PropertyKey category, Styles::PropertyKey key) const
 {
     const auto found = std::ranges::find_if(rows, [&](const PropertyMapping& row)
                                             { return row.category == category && row.key == key; });

@@ -1,4 +1,4 @@
-#include "reference_host/document/PropertyTable.h"
+#include "reference_host/document/PropertyMappings.h"
 
 #include "host/style_model/CategoryNames.h"
 
@@ -10,7 +10,7 @@ using ReferenceHost::BuiltInProperties;
 using ReferenceHost::FindPropertyElement;
 using ReferenceHost::PropertyElement;
 using ReferenceHost::PropertyMapping;
-using ReferenceHost::PropertyTable;
+using ReferenceHost::PropertyMappings;
 using testing::ElementsAre;
 
 namespace
@@ -33,7 +33,7 @@ std::vector<std::wstring> KeysOf(const Styles::PropertyKey& category)
     return keys;
 }
 
-TEST(PropertyTable, HoldsThePropertiesOfTheFourCategories)
+TEST(PropertyMappings, HoldsThePropertiesOfTheFourCategories)
 {
     EXPECT_THAT(KeysOf(Styles::FillStyleCategoryName),
                 ElementsAre(L"type", L"color", L"transparency", L"gradient", L"hatch", L"bitmap"));
@@ -48,14 +48,14 @@ TEST(PropertyTable, HoldsThePropertiesOfTheFourCategories)
                             L"letter-spacing"));
 }
 
-TEST(PropertyTable, ListsTheBuiltInCategoriesFirst)
+TEST(PropertyMappings, ListsTheBuiltInCategoriesFirst)
 {
     PropertyMapping shadow;
     shadow.category = Key(L"shadow");
     shadow.key = Key(L"depth");
     shadow.attribute = "depth";
 
-    const PropertyTable table({shadow});
+    const PropertyMappings table({shadow});
 
     EXPECT_THAT(table.GetCategories(),
                 ElementsAre(Styles::FillStyleCategoryName, Styles::OutlineStyleCategoryName,
@@ -63,9 +63,9 @@ TEST(PropertyTable, ListsTheBuiltInCategoriesFirst)
                             Key(L"shadow")));
 }
 
-TEST(PropertyTable, FindsAllRowsOfAnAttribute)
+TEST(PropertyMappings, FindsAllRowsOfAnAttribute)
 {
-    const PropertyTable table({});
+    const PropertyMappings table({});
 
     std::vector<std::wstring> keys;
     for (const std::size_t place : table.FindRows("margin"))
@@ -75,9 +75,9 @@ TEST(PropertyTable, FindsAllRowsOfAnAttribute)
     EXPECT_TRUE(table.FindRows("no-such-attribute").empty());
 }
 
-TEST(PropertyTable, KnowsTheFirstRowOfAProperty)
+TEST(PropertyMappings, KnowsTheFirstRowOfAProperty)
 {
-    const PropertyTable table({});
+    const PropertyMappings table({});
     const std::size_t family = table.FindRows("font-family").front();
     const std::size_t name = table.FindRows("font-name").front();
 
@@ -86,9 +86,9 @@ TEST(PropertyTable, KnowsTheFirstRowOfAProperty)
     EXPECT_EQ(table.FindRow(Styles::GetCharacterStyleCategoryName(), Key(L"font")), &table.GetRows()[name]);
 }
 
-TEST(PropertyTable, HasNoRowForAnUnknownProperty)
+TEST(PropertyMappings, HasNoRowForAnUnknownProperty)
 {
-    const PropertyTable table({});
+    const PropertyMappings table({});
 
     EXPECT_EQ(table.FindRow(Styles::FillStyleCategoryName, Key(L"width")), nullptr);
 }

@@ -19,12 +19,12 @@ namespace ReferenceHost
 [[nodiscard]] std::string_view ElementName(PropertyElement element);
 
 /// All rows that one drawing is read by: the built-in ones and those that panels brought along.
-class PropertyTable
+class PropertyMappings
 {
 public:
-    explicit PropertyTable(const std::vector<PropertyMapping>& extensions);
-    PropertyTable(const PropertyTable&) = delete;
-    PropertyTable& operator=(const PropertyTable&) = delete;
+    explicit PropertyMappings(const std::vector<PropertyMapping>& extensions);
+    PropertyMappings(const PropertyMappings&) = delete;
+    PropertyMappings& operator=(const PropertyMappings&) = delete;
 
     /// The rows in order; of two for one property the first counts more. They keep their addresses.
     [[nodiscard]] const std::vector<PropertyMapping>& GetRows() const noexcept { return rows; }
