@@ -64,9 +64,9 @@ bool AnyInherited(const Style& style, const Predicate& matches)
     return false;
 }
 
-bool LiesWithin(const Style& style, const Style& whole)
+bool LiesWithin(const Style& place, const Style& whole)
 {
-    const Style* level = &style;
+    const Style* level = &place;
     while (level != nullptr && level != &whole)
         level = StyleData::Of(*level).owner;
     return level != nullptr;
@@ -92,13 +92,13 @@ bool IsInherited(const Style& style)
 bool WouldSubstyleCloseCycle(const Style& style, const Style& parent)
 {
     const StyleData& inParent = StyleData::Of(parent);
-    for (const Styles::OwnSubstyle& substyle : StyleData::Of(style).substyles)
-    {
-        const Style* counterpart = inParent.FindSubstyle(substyle.key);
-        if (counterpart != nullptr && WouldCloseCycle(*substyle.style, *counterpart))
-            return true;
-    }
-    return false;
+    return std::ranges::any_of(StyleData::Of(style).substyles,
+                               [&inParent](const Styles::OwnSubstyle& substyle)
+                               {
+                                   const Style* counterpart = inParent.FindSubstyle(substyle.key);
+                                   return counterpart != nullptr &&
+                                          WouldCloseCycle(*substyle.style, *counterpart);
+                               });
 }
 
 } // namespace
