@@ -97,7 +97,7 @@ RowReport ReadRow(IReflectable& panel, const PanelDescription& description, cons
 std::optional<ReportValue> ToReportValue(const OvxUtils::Any& value)
 {
     if (value.IsEmpty())
-        return ReportValue();
+        return std::optional<ReportValue>(std::in_place);
     if (const auto* number = value.TryGet<int>())
         return *number;
     if (const auto* text = value.TryGet<OvxStringT>())
