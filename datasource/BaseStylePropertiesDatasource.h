@@ -27,6 +27,7 @@
 #include <set>
 #include <vector>
 
+class IMultipleStyleModifier;
 class IStylesSource;
 
 /// The logic behind one style-properties panel: what the targets' properties of one category are, where their
@@ -65,12 +66,15 @@ public:
     // four are those of IGetModifyStyles. Adding, removing or moving one breaks every panel module that was
     // built before.
 
+    /// Writes every property that `values` sets itself, substyles not counted; a null `values` does nothing.
+    ///
+    /// The base hands on to the protected form, which decides where the change goes. Targets are not asked
+    /// for.
     void ModifyStyles(std::unique_ptr<Styles::Style> values,
                       const Styles::PropertyPaths* overridePaths) const override;
 
-    /// The style that is shown for the target at `index`: reached from the target along the applicator's path
-    /// where there is an applicator that gives one, else along the one key GetCategory(). Called wherever a
-    /// value is read.
+    /// The style that is shown for the target at `index`: reached from the target along the applicator's
+    /// path, if there is one, else along the one key GetCategory(). Called wherever a value is read.
     ///
     /// @returns null when there is no such target or the target is null. Missing substyles are created.
     [[nodiscard]] Styles::Style* GetTargetStyle(std::size_t index) const override;
@@ -83,9 +87,9 @@ public:
 
     /// The title above the panel's section; bound as "SectionTitle".
     ///
-    /// After SetTargetStyle() it names the category and, where there is one, the style that the first target
-    /// inherits from, with every "&" doubled. While it is empty it is filled with the category's display name
-    /// as it is. An override decides what the panel reads; it need not call the base.
+    /// After SetTargetStyle() it names the category and the style that the first target inherits from, if
+    /// any, with every "&" doubled. While it is empty it is filled with the category's display name as it is.
+    /// An override decides what the panel reads; it need not call the base.
     [[nodiscard]] virtual OvxStringT GetSectionTitle();
 
     /// Takes new targets; what was derived from the old ones is derived anew. Raises "SectionTitle", nothing
@@ -93,10 +97,10 @@ public:
     ///
     /// @param styles         the targets, in order; borrowed until the next call; any may be null.
     /// @param isDefault      the targets are the document's default styles. With siblings, they then count
-    /// only when
-    ///                       no sibling contributes a target.
+    /// only
+    ///                       when no sibling contributes a target.
     /// @param path           where this data source's category lies within `forceAmbiguous`.
-    /// @param forceAmbiguous paths that must show as ambiguous; what lies under `path` is kept, see
+    /// @param forceAmbiguous paths that show as ambiguous; what lies under `path` is kept, see
     ///                       ImportForceAmbiguous().
     /// @note  Called by the host whenever the selection or the document changes. An override calls the base.
     virtual void SetTargetStyle(const std::vector<Styles::Style*>& styles, bool isDefault,
@@ -105,9 +109,8 @@ public:
 
     /// Takes the document objects that own targets: a WNodeHandle* as a number for each style.
     ///
-    /// Deselects the preset (SelectNoPreset) when the number of objects changes, or when the first object of
-    /// both maps, the one with the smallest style address, differs; the styles themselves are not compared.
-    /// Notifies nobody. An override calls the base.
+    /// Deselects the preset (SelectNoPreset) when the number of objects changes or the first objects of both
+    /// maps differ; the styles themselves are not compared. Notifies nobody. An override calls the base.
     virtual void SetObjectStyles(const std::map<Styles::Style*, std::size_t>& newObjectStyles);
 
     /// The category under which the host keeps this panel's presets; empty, as here, for a panel without
@@ -117,17 +120,30 @@ public:
 protected:
     /// Decides where a change goes. Every write of this class ends here.
     ///
+    /// In this order: into the open group on default styles; to the default styles; to the style applicator,
+    /// if there is one; to the siblings whose targets were merged in, and to the own styles through the style
+    /// source's modifier, whose Begin and End enclose these two also when something throws. What an override
+    /// does not hand on to the base is not written.
+    ///
     /// @param paths         what is written; a path at which `values` holds nothing is reset.
-    /// @param values        the change style; may be null.
-    /// @param overridePaths what is written as overrides of the selected objects; may be null.
+    /// @param values        the change style; may be null, then nothing but the paths is handed on.
+    /// @param overridePaths what is written as overrides of the selected objects; may be null. A path in both
+    ///                      lists counts as an override, except in a group.
     virtual void ModifyStyles(const Styles::PropertyPaths& paths, std::unique_ptr<Styles::Style> values,
                               const Styles::PropertyPaths* overridePaths) const;
 
 public:
     /// Opens a group: what is written until EndGroupModify() is one change.
+    ///
+    /// On default styles this data source gathers the values, and a second call drops what was gathered; for
+    /// other targets the style source holds the group. Without a style source no group is opened. Called when
+    /// a drag begins.
     virtual void StartGroupModify();
 
     /// Closes the group, applying what was gathered, or dropping it when `commit` is false.
+    ///
+    /// On default styles the values land in the fill substyle, whatever the panel. Dropping raises
+    /// "ObjectStyleChanged" at once. Without a group here the style source is told.
     virtual void EndGroupModify(bool commit);
 
 protected:
@@ -148,7 +164,8 @@ protected:
     /// targets.
     virtual void ClearProperties(const Styles::PropertyPaths& paths) const;
 
-    /// Makes `style` independent of its parent while it keeps every value that it shows.
+    /// Makes `style` independent of its parent while it keeps every value that it shows, by the style
+    /// source's ReplaceProperties. A null `style` or `source` does nothing. For commands of derived classes.
     virtual void SetNoParent(IStylesSource* source, Styles::Style* style) const;
 
     /// Writes one property of the targets, or two when `key2` and `value2` are both given; with only one of
@@ -156,7 +173,8 @@ protected:
     virtual void WriteTarget(const Styles::PropertyKey& key, const OvxUtils::Any& value,
                              const Styles::PropertyKey* key2, const OvxUtils::Any* value2) const;
 
-    /// Sets one property in the panel's substyle of a named style of the default style sheet.
+    /// Sets one property in the panel's substyle of a named style of the default style sheet. Notifies
+    /// nobody, and does nothing when the source, the sheet, the style or the substyle is missing.
     virtual void WriteToDefault(OvxStringT name, const Styles::PropertyKey& key,
                                 const OvxUtils::Any& value) const;
 
@@ -244,8 +262,7 @@ public:
     /// over, one after it disagrees.
     ///
     /// @returns false with exactly one target, whatever is forced, and with none unless forced.
-    /// @note    May create a missing category substyle in a target, because it asks GetTargetStyle() for
-    /// each.
+    /// @note    May create a missing category substyle in a target: it asks GetTargetStyle() for each.
     [[nodiscard]] bool IsAmbiguous(const Styles::PropertyPath& path) const;
 
     /// IsAmbiguous() of the path of one key.
@@ -254,10 +271,10 @@ public:
     /// IsAmbiguous() of the empty path.
     [[nodiscard]] bool IsAmbiguous() const;
 
-    /// Names the property or properties of the row that commands and their enables are about: paths separated
-    /// by
-    /// ",", keys by ".", a path may end in "*"; or "style" for the whole style. Notifies
-    /// "RevertToParentEnable", then "BreakColorResourceEnable", also when the identifier stays the same.
+    /// Names what commands and their enables are about: paths separated by ",", keys by ".", a path may end
+    /// in
+    /// "*"; or "style" for the whole style. Notifies "RevertToParentEnable", then "BreakColorResourceEnable",
+    /// also when the identifier stays the same.
     void SetActiveIdentifier(const OvxStringT& identifier);
 
     [[nodiscard]] OvxStringT GetActiveIdentifier() const { return activeIdentifier; }
@@ -281,18 +298,51 @@ public:
 
     // Style commands
 
+    // None of these asks, shows a message or notifies; all are about the active identifier.
+
     /// The answer of GetApplyToParentEnable(): one computation serves both.
     [[nodiscard]] int GetRevertToParentEnable() const { return GetApplyToParentEnable(); }
 
+    /// Clears the active properties on all targets, or with "style" all properties of the category, so that
+    /// they inherit again. Does nothing unless enabled.
     void OnRevertToParent();
+
+    /// 1 when there is exactly one target and one of the active properties is a colour that refers to a
+    /// colour resource, else 0.
+    ///
+    /// @throws std::bad_cast when an active property before that is no colour.
     [[nodiscard]] int GetBreakColorResourceEnable() const;
+
+    /// Writes the active colours of the one target as plain colours of the same look.
+    ///
+    /// @throws std::bad_cast when an active property is no colour; nothing is written then.
     void OnBreakColorResource();
+
+    /// 1 when the state of the active identifier is Overridden or Ambiguous, else 0.
     [[nodiscard]] int GetApplyToParentEnable() const;
+
+    /// Moves what the first target's category style sets itself into what that style inherits from.
+    ///
+    /// Acts for the identifier "style" alone, although it is enabled for single properties too. Does nothing
+    /// without a parent to apply to.
     void OnApplyToParent();
+
+    /// 1 when the first target is no substyle, or has a parent; else 0.
     [[nodiscard]] int GetCreateStyleFromEnable() const;
+
+    /// Has the style source make a named style of this category under an unused name made from the
+    /// category's.
     void OnCreateStyleFrom();
+
+    /// 1 when what the first target inherits from has a name, else 0.
     [[nodiscard]] int GetEditStyleEnable() const;
+
+    /// Opens that style in the data source "StylesDatasource" of the context, if that edits styles.
     void OnEditStyle();
+
+    /// The texts of the commands in menus, with the display name of what the first target inherits from,
+    /// every
+    /// "&" in it doubled, or with a text that stands for a parent without a name.
     [[nodiscard]] OvxStringT GetRevertToMenuString() const;
     [[nodiscard]] OvxStringT GetApplyToMenuString() const;
     [[nodiscard]] OvxStringT GetEditStyleMenuString() const;
@@ -330,10 +380,8 @@ protected:
     /// The number by which the style applicator knows this data source; 0 without one.
     [[nodiscard]] int GetStyleApplicatorID() const { return styleApplicatorID; }
 
-    /// Adds to the forced paths what lies under `path` in `paths`, relative to `path`.
-    ///
-    /// When `paths` holds `path` itself or a prefix of it, everything is forced: the empty path is added and
-    /// nothing else. Removes nothing.
+    /// Adds to the forced paths what lies under `path` in `paths`, relative to `path`. When `paths` holds
+    /// `path` itself or a prefix of it, everything is forced: the empty path is added and nothing else.
     void ImportForceAmbiguous(const Styles::PropertyPath& path, const std::set<Styles::PropertyPath>& paths);
 
     /// ImportForceAmbiguous() with the path of one key.
@@ -341,9 +389,27 @@ protected:
 
     void ClearForceAmbiguous() { forceAmbiguous.clear(); }
 
-    /// Tells whether the category style of the first target has anything to inherit from: a parent of its
-    /// own, or, unless the category is that of whole styles, a substyle of this category in its owner's
-    /// parent.
+    /// Tells whether `path` or a prefix of it, the empty path included, is forced ambiguous.
+    [[nodiscard]] bool IsForcedAmbiguous(const Styles::PropertyPath& path) const;
+
+    /// Writes `values` at `paths` into every default style: into its substyle of their category, made where
+    /// it is missing, or into the style itself for the category of whole styles.
+    ///
+    /// Raises "StylePropertiesChange" with that category once when the application is idle, also when nothing
+    /// is written; null `values` write nothing, and the key is empty.
+    void ModifyDefaultStyles(const Styles::PropertyPaths& paths, std::unique_ptr<Styles::Style> values) const;
+
+    /// Writes a whole substyle: `paths` and `overridePaths` are relative to it, and `substyle` is copied.
+    /// Null as the substyle resets the paths.
+    void ModifySubstyles(const Styles::PropertyPaths& paths, const Styles::Style* substyle,
+                         Styles::PropertyKey substyleKey, const Styles::PropertyPaths* overridePaths) const;
+
+    /// What values of `categoryStyle` are applied to: its parent, else the style of the same category in the
+    /// parent of its owner; null when there is neither.
+    [[nodiscard]] static Styles::Style* FindInParent(const Styles::Style& categoryStyle);
+
+    /// Tells whether the category style of the first target has anything to inherit from: a parent, or,
+    /// unless the category is that of whole styles, a substyle of this category in its owner's parent.
     [[nodiscard]] bool Private_HasParent() const;
 
     /// Tells whether DoesOverrideProperty() holds for one of the paths of `identifier`; false for an empty
@@ -354,6 +420,9 @@ protected:
     void OnPresetsListUpdated();
 
 private:
+    /// A write on its way to where it goes.
+    struct PendingWrite;
+
     [[nodiscard]] bool HasParent() const;
     [[nodiscard]] bool GetEnableStyleEditingInternal(const Styles::PropertyKey& category) const;
     [[nodiscard]] bool ShouldIgnoreCharacterStyleSiblings() const;
@@ -364,6 +433,12 @@ private:
     [[nodiscard]] OvxStringT MakeSectionTitle(const OvxStringT& categoryDisplayName) const;
     [[nodiscard]] OvxStringT FindStyleNameOfFirstTarget() const;
     [[nodiscard]] bool DoesWholeStyleOverride(const Styles::Style* categoryStyle) const;
+    void GatherIntoGroup(const PendingWrite& write) const;
+    void ModifyTargets(IMultipleStyleModifier& modifier, PendingWrite& write) const;
+    void ForwardToSiblings(const PendingWrite& write) const;
+    void ModifyOwnStyles(IMultipleStyleModifier& modifier, PendingWrite& write) const;
+    [[nodiscard]] bool IsWholeStyleActive() const;
+    [[nodiscard]] OvxStringT GetParentStyleName() const;
     void MergeSiblingTargets();
     void AppendTargetsOf(const BaseStylePropertiesDatasource& sibling);
     void RegisterStyleNames();
@@ -373,8 +448,7 @@ private:
     /// The styles handed in by the last SetTargetStyle(), in order. Borrowed from the host; any may be null.
     std::vector<Styles::SubStyle> ownStyles;
 
-    /// What is shown: the own styles, or these merged with the targets of siblings. Borrowed; any may be
-    /// null.
+    /// What is shown: the own styles, or these merged with those of siblings. Borrowed; any may be null.
     std::vector<Styles::SubStyle> targetStyles;
 
     /// The object of each style, a WNodeHandle* as a number. Borrowed until the next SetObjectStyles().
@@ -389,27 +463,17 @@ private:
     OvxStringT activeIdentifier;
     OvxStringT sectionTitle;
 
-    /// The sheet's name of the first target; empty for an object's own style.
-    OvxStringT styleName;
+    OvxStringT styleName; ///< The sheet's name of the first target; empty for an object's own style.
 
-    /// Makes the list nodes.
-    WXmlDoc listDocument;
-
-    /// The list built last; ids that come back are looked up in it.
-    WXmlNode resourceListNode;
-
-    /// The item chosen in the more-styles dialog; invalid while none is.
-    WXmlNode currentListItem;
-
-    /// The highest id that stands for a style of the main list.
-    std::int32_t visibleLimit = 18;
-
+    WXmlDoc listDocument;           ///< Makes the list nodes.
+    WXmlNode resourceListNode;      ///< The list built last; ids that come back are looked up in it.
+    WXmlNode currentListItem;       ///< Chosen in the more-styles dialog; invalid while none is.
+    std::int32_t visibleLimit = 18; ///< The highest id that stands for a style of the main list.
     bool newStyleListBuilt = false;
     std::int32_t listedStyleCount = 0;
     std::int32_t styleApplicatorID = 0;
 
-    /// Takes over writes and gives the path to the edited substyle. Borrowed from the host object; may be
-    /// null.
+    /// Takes over writes and gives the path to the edited substyle. Borrowed from the host; may be null.
     IStyleApplicator* styleApplicator = nullptr;
 
     /// One value computed when it is first asked for after SetTargetStyle(): see HasParent().
@@ -423,8 +487,11 @@ private:
     std::unique_ptr<Styles::Style> groupModifyStyle;
 
     /// The paths written during the open group, in order, repeated ones too.
-    Styles::PropertyPaths groupModifyPaths;
-    Styles::PropertyPaths groupModifyOverridePaths;
+    mutable Styles::PropertyPaths groupModifyPaths;
+    mutable Styles::PropertyPaths groupModifyOverridePaths;
+
+    /// A write of this data source is being forwarded to siblings further up in the chain of calls.
+    mutable bool isForwarding = false;
 
 protected:
     /// In order of registration. Borrowed: whoever ties data sources together unties them before either goes.

@@ -99,11 +99,16 @@ void BaseStylePropertiesDatasource::ImportForceAmbiguous(const PropertyKey& key,
     ImportForceAmbiguous(MakePath(key), paths);
 }
 
+bool BaseStylePropertiesDatasource::IsForcedAmbiguous(const PropertyPath& path) const
+{
+    return ContainsPathOrPrefix(forceAmbiguous, path);
+}
+
 bool BaseStylePropertiesDatasource::IsAmbiguous(const PropertyPath& path) const
 {
     if (targetStyles.size() == 1)
         return false;
-    if (ContainsPathOrPrefix(forceAmbiguous, path))
+    if (IsForcedAmbiguous(path))
         return true;
     if (path.empty())
         return false;
