@@ -1,5 +1,7 @@
 #include "reference_host/style_model/NamedStyleSheet.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -18,18 +20,71 @@ NamedStyleSheet::~NamedStyleSheet() = default;
 
 Styles::Style* NamedStyleSheet::Add(const OvxStringT& name, std::unique_ptr<Styles::Style> style)
 {
-    if (style == nullptr || name.empty() || !byName.try_emplace(name, styles.size()).second)
+    return InsertAt(styles.size(), name, std::move(style));
+}
+
+Styles::Style* NamedStyleSheet::InsertAt(std::size_t place, const OvxStringT& name,
+                                         std::unique_ptr<Styles::Style> style)
+{
+    if (style == nullptr || name.empty() || byName.contains(name))
         return nullptr;
 
-    byStyle.emplace(style.get(), styles.size());
-    names.push_back(name);
-    return styles.emplace_back(std::move(style)).get();
+    const std::size_t at = std::min(place, styles.size());
+    Styles::Style* const added = style.get();
+    names.insert(names.begin() + static_cast<std::ptrdiff_t>(at), name);
+    styles.insert(styles.begin() + static_cast<std::ptrdiff_t>(at), std::move(style));
+    Number(at);
+    return added;
+}
+
+std::unique_ptr<Styles::Style> NamedStyleSheet::TakeOut(const OvxStringT& name)
+{
+    const std::size_t at = GetPlace(name);
+    if (at == styles.size())
+        return nullptr;
+
+    std::unique_ptr<Styles::Style> taken = std::move(styles[at]);
+    byName.erase(names[at]);
+    byStyle.erase(taken.get());
+    names.erase(names.begin() + static_cast<std::ptrdiff_t>(at));
+    styles.erase(styles.begin() + static_cast<std::ptrdiff_t>(at));
+    takenNumbers.clear();
+    Number(at);
+    return taken;
+}
+
+bool NamedStyleSheet::Rename(const OvxStringT& name, const OvxStringT& newName)
+{
+    const std::size_t at = GetPlace(name);
+    if (at == styles.size() || newName.empty() || byName.contains(newName))
+        return false;
+
+    byName.erase(names[at]);
+    names[at] = newName;
+    byName.emplace(newName, at);
+    takenNumbers.clear();
+    return true;
+}
+
+std::size_t NamedStyleSheet::GetPlace(const OvxStringT& name) const
+{
+    const auto found = byName.find(name);
+    return found == byName.end() ? styles.size() : found->second;
+}
+
+void NamedStyleSheet::Number(std::size_t first)
+{
+    for (std::size_t i = first; i < styles.size(); ++i)
+    {
+        byName[names[i]] = i;
+        byStyle[styles[i].get()] = i;
+    }
 }
 
 Styles::Style* NamedStyleSheet::GetStyle(const OvxStringT& name) const
 {
-    const auto found = byName.find(name);
-    return found == byName.end() ? nullptr : styles[found->second].get();
+    const std::size_t place = GetPlace(name);
+    return place == styles.size() ? nullptr : styles[place].get();
 }
 
 OvxStringT NamedStyleSheet::GetStyleName(const Styles::Style* style) const

@@ -30,6 +30,23 @@ public:
     ///          style has it already: the style that was passed is gone then.
     Styles::Style* Add(const OvxStringT& name, std::unique_ptr<Styles::Style> style);
 
+    /// Takes a style in as Add does, but at a place: the styles from there on move back by one. A place
+    /// behind the last is the last.
+    Styles::Style* InsertAt(std::size_t place, const OvxStringT& name, std::unique_ptr<Styles::Style> style);
+
+    /// Gives a style up; the name is free again. Styles that inherit from it go on to do so.
+    ///
+    /// @returns the style, owned by the caller from now on; null for an unknown name.
+    std::unique_ptr<Styles::Style> TakeOut(const OvxStringT& name);
+
+    /// Changes the name of a style, which stays where it is and keeps its address.
+    ///
+    /// @returns whether it did: not when `name` is unknown, or `newName` is empty or taken.
+    bool Rename(const OvxStringT& name, const OvxStringT& newName);
+
+    /// The place of a name in the order of the sheet; the number of styles for an unknown one.
+    [[nodiscard]] std::size_t GetPlace(const OvxStringT& name) const;
+
     /// The names of all styles, of every category, in the order of the sheet.
     [[nodiscard]] const std::vector<OvxStringT>& GetNames() const noexcept { return names; }
 
@@ -41,13 +58,16 @@ public:
     [[nodiscard]] OvxStringT GetUnusedStyleName(const OvxStringT& base) const override;
 
 private:
+    /// Enters the styles from `first` on under their places.
+    void Number(std::size_t first);
+
     std::vector<OvxStringT> names;                      ///< In the order of the sheet, as `styles`.
     std::vector<std::unique_ptr<Styles::Style>> styles; ///< None null.
     std::unordered_map<OvxStringT, std::size_t> byName;
     std::unordered_map<const Styles::Style*, std::size_t> byStyle;
 
-    /// For a base, the number up to which all its numbered names are taken. Names never become free again, so
-    /// that many styles from one base cost no search through all the earlier ones.
+    /// For a base, the number up to which all its numbered names are taken, so that many styles from one base
+    /// cost no search through all the earlier ones. Forgotten when a name becomes free.
     mutable std::unordered_map<OvxStringT, std::size_t> takenNumbers;
 };
 

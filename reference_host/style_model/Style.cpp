@@ -242,6 +242,11 @@ void SetExternalSheet(Styles::Style& style, const OvxStringT& sheetName, const O
                                 Styles::StyleRelations::ExternalSheet{sheetName, link}));
 }
 
+void SetJournal(Styles::Style& style, IStyleJournal* journal)
+{
+    Styles::StyleData::Of(style).SetJournal(journal);
+}
+
 std::size_t LiveStyleCount() noexcept
 {
     return Styles::liveStyles;

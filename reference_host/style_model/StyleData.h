@@ -4,6 +4,7 @@
 #include "host/style_model/Style.h"
 #include "host/utils/Any.h"
 #include "host/utils/OvxStringT.h"
+#include "reference_host/style_model/IStyleJournal.h"
 #include "reference_host/style_model/StyleLink.h"
 
 #include <cstddef>
@@ -40,11 +41,13 @@ struct StyleRelations
     ReferenceHost::StyleLink parent;
     ReferenceHost::StyleLink
         defaults; ///< What effective values fall back to after the parents; never a parent.
-    std::unique_ptr<ExternalSheet> external; ///< Null for a style of the document.
+    std::unique_ptr<ExternalSheet> external;         ///< Null for a style of the document.
+    ReferenceHost::IStyleJournal* journal = nullptr; ///< Of an outermost style; borrowed from its document.
 };
 
 /// The insides of a style, and the only place where they change: every change of a style, by whatever route,
-/// is one of the operations under "Changes".
+/// is one of the operations under "Changes", and tells the journal first. Those under "Restoring" put back
+/// what was there before, and tell nobody.
 struct StyleData
 {
     StyleData() = default;
@@ -92,9 +95,21 @@ struct StyleData
     void LinkParent(Style* parent);
     void LinkDefaults(Style* defaults);
 
-    void SetCategory(const PropertyKey& newCategory) { category = newCategory; }
+    void SetCategory(const PropertyKey& newCategory);
 
     void SetExternal(std::unique_ptr<StyleRelations::ExternalSheet> sheet);
+
+    void SetJournal(ReferenceHost::IStyleJournal* journal);
+
+    // Restoring
+
+    /// Changes the substyle of that name for `other`; either may be null. The one that leaves has no owner
+    /// any more.
+    void Exchange(Style& self, const PropertyKey& key, std::unique_ptr<Style>& other);
+
+    /// As LinkParent, which never fails for a style that had a parent or a default style before.
+    void RestoreParent(Style* parent);
+    void RestoreDefaults(Style* defaults);
 
     // Fields, read freely
 
@@ -107,6 +122,8 @@ struct StyleData
     ReferenceHost::StyleLink* firstLink = nullptr; ///< The links that point to this style; their list's head.
 
 private:
+    [[nodiscard]] ReferenceHost::IStyleJournal* FindJournal() const noexcept;
+    void TellJournal();
     StyleRelations& NeedRelations();
 };
 

@@ -7,10 +7,13 @@
 #include <cstddef>
 
 /// @file
-/// What the reference host does with styles and no one else may: default styles, external sheets, counting.
+/// What the reference host does with styles and no one else may: default styles, external sheets, journals,
+/// counting.
 
 namespace ReferenceHost
 {
+
+class IStyleJournal;
 
 /// Gives a whole style the document's default style, to which its effective values and those of its substyles
 /// fall back after the parents; null takes it away.
@@ -26,6 +29,10 @@ STYLEPROPERTIES_HOST_API void SetDefaultStyle(Styles::Style& style, Styles::Styl
 /// edited. An empty sheet name makes it one of the document again.
 STYLEPROPERTIES_HOST_API void SetExternalSheet(Styles::Style& style, const OvxStringT& sheetName,
                                                const OvxStringT& link);
+
+/// Makes a style that is no substyle one of a document: its changes, and those of its substyles at any depth,
+/// are told to `journal` from now on. Borrowed; null takes it away. Copies do not carry it on.
+STYLEPROPERTIES_HOST_API void SetJournal(Styles::Style& style, IStyleJournal* journal);
 
 /// How many styles live in the process, substyles included. For tests that look for leaks.
 [[nodiscard]] STYLEPROPERTIES_HOST_API std::size_t LiveStyleCount() noexcept;
