@@ -1,7 +1,9 @@
 #include "reference_host/document/CascadeStyles.h"
 
+#include "reference_host/style_model/StyleData.h"
 #include "reference_host/style_model/StyleHosting.h"
 
+#include "host/colour/CLR_COLORSPEC.h"
 #include "host/style_model/CategoryNames.h"
 
 #include <algorithm>
@@ -22,6 +24,14 @@ std::size_t HashOf(OwnValues::Scope scope, const Styles::Style* parent,
     for (const StyleRecord* const level : levels)
         hash = (hash ^ (hash >> 29U)) * kFactor + std::hash<const void*>()(level);
     return hash * kFactor;
+}
+
+/// Tells whether a predicate holds for any value that the levels give.
+template <class Predicate>
+bool AnyValue(const std::vector<const StyleRecord*>& levels, const Predicate& matches)
+{
+    return std::ranges::any_of(levels, [&matches](const StyleRecord* level)
+                               { return std::ranges::any_of(level->values, matches); });
 }
 
 } // namespace
@@ -57,11 +67,51 @@ std::size_t CascadeStyles::Intern(OwnValues::Scope scope, Styles::Style* parent,
 std::unique_ptr<Styles::Style> CascadeStyles::Make(std::size_t number)
 {
     Cascade& cascade = cascades[number];
-    if (cascade.uses == 1)
+    if (cascade.uses == 1 && cascade.prototype == nullptr)
         return Build(cascade);
     if (cascade.prototype == nullptr)
         cascade.prototype = Build(cascade);
     return std::make_unique<Styles::Style>(*cascade.prototype);
+}
+
+std::unique_ptr<Styles::Style> CascadeStyles::MakeFor(const StyleUser& user, std::size_t number)
+{
+    std::unique_ptr<Styles::Style> style = Make(number);
+    users.insert_or_assign(&Styles::StyleData::Of(*style), user);
+    ReferenceHost::SetJournal(*style, journal);
+    return style;
+}
+
+StyleUser CascadeStyles::FindUser(const Styles::StyleData& wholeStyle) const
+{
+    const auto found = users.find(&wholeStyle);
+    return found == users.end() ? StyleUser() : found->second;
+}
+
+std::vector<StyleUser> CascadeStyles::GetUsers() const
+{
+    std::vector<StyleUser> all;
+    all.reserve(users.size());
+    for (const auto& [style, user] : users)
+        all.push_back(user);
+    return all;
+}
+
+void CascadeStyles::FixRelativeValues()
+{
+    for (Cascade& cascade : cascades)
+    {
+        const bool isRelative =
+            AnyValue(cascade.levels, [](const StyleValue& value) { return value.value.IsEmpty(); });
+        if (isRelative && cascade.prototype == nullptr)
+            cascade.prototype = Build(cascade);
+    }
+}
+
+bool CascadeStyles::RefersToPalette(std::size_t number, const OvxStringT& entry) const
+{
+    return AnyValue(cascades[number].levels,
+                    [&entry](const StyleValue& value) { return RefersToPaletteEntry(value.value, entry); });
 }
 
 std::unique_ptr<Styles::Style> CascadeStyles::Build(const Cascade& cascade) const
@@ -75,6 +125,13 @@ std::unique_ptr<Styles::Style> CascadeStyles::Build(const Cascade& cascade) cons
     // inherited there.
     values.WriteTo(*style);
     return style;
+}
+
+bool RefersToPaletteEntry(const OvxUtils::Any& value, const OvxStringT& entry)
+{
+    const auto* const colour = value.TryGet<CLR_COLORSPEC>();
+    return colour != nullptr && colour->GetModel() == CLR_COLORSPEC::kResource &&
+           colour->GetResourceName() == entry;
 }
 
 std::unique_ptr<Styles::Style> MakeWholeStyle(Styles::Style* parent, const PropertyMappings& table)

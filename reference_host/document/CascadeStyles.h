@@ -5,6 +5,7 @@
 #include "reference_host/document/StyleRecord.h"
 
 #include "host/style_model/Style.h"
+#include "host/utils/OvxStringT.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -15,6 +16,17 @@
 
 namespace ReferenceHost
 {
+
+class DrawingObject;
+class IStyleJournal;
+class TextUnit;
+
+/// Whose a whole style is. Borrowed from the drawing.
+struct StyleUser
+{
+    DrawingObject* object = nullptr; ///< Never null for a style that has a user.
+    TextUnit* unit = nullptr;        ///< The unit of the object's text; null for the object itself.
+};
 
 /// Makes the styles of shapes and text units out of the styles of the file that apply to them, when they are
 /// first asked for.
@@ -38,6 +50,26 @@ public:
     /// inherits from the cascade's parent and falls back to the default style.
     [[nodiscard]] std::unique_ptr<Styles::Style> Make(std::size_t number);
 
+    /// The same, for somebody: the style is one of the document, whose journal hears of its changes, and its
+    /// user is found by it from now on. User and style live as long as this.
+    [[nodiscard]] std::unique_ptr<Styles::Style> MakeFor(const StyleUser& user, std::size_t number);
+
+    /// The journal of styles that are made for somebody from now on; borrowed, null for none.
+    void SetJournal(IStyleJournal* newJournal) noexcept { journal = newJournal; }
+
+    /// Whose a whole style is; no object for one that was not made for anybody.
+    [[nodiscard]] StyleUser FindUser(const Styles::StyleData& wholeStyle) const;
+
+    /// All whose styles were made, in no order.
+    [[nodiscard]] std::vector<StyleUser> GetUsers() const;
+
+    /// Works out the values that are given as a part of an inherited one, so that styles made later do not
+    /// depend on what becomes of those that they inherit from.
+    void FixRelativeValues();
+
+    /// Tells whether a style of the file that belongs to a cascade gives a colour by this palette entry.
+    [[nodiscard]] bool RefersToPalette(std::size_t number, const OvxStringT& entry) const;
+
 private:
     struct Cascade
     {
@@ -54,7 +86,12 @@ private:
     Styles::Style& defaults;
     std::vector<Cascade> cascades;
     std::unordered_multimap<std::size_t, std::size_t> numbersByHash;
+    IStyleJournal* journal = nullptr;
+    std::unordered_map<const Styles::StyleData*, StyleUser> users;
 };
+
+/// Tells whether a value is a colour that refers to a palette entry.
+[[nodiscard]] bool RefersToPaletteEntry(const OvxUtils::Any& value, const OvxStringT& entry);
 
 /// A new whole style with an empty substyle for each category.
 [[nodiscard]] std::unique_ptr<Styles::Style> MakeWholeStyle(Styles::Style* parent,

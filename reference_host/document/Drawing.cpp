@@ -3,6 +3,7 @@
 #include "reference_host/document/DrawingData.h"
 #include "reference_host/document/DrawingReader.h"
 #include "reference_host/style_model/CategoryRegistry.h"
+#include "reference_host/style_model/StyleHosting.h"
 
 #include <algorithm>
 #include <utility>
@@ -30,6 +31,15 @@ void RegisterProperties(const PropertyMappings& table)
     }
 }
 
+/// Makes the styles of a drawing that has been read tell its history.
+void StartHistory(DrawingData& data)
+{
+    SetJournal(*data.defaultStyle, &data.history);
+    for (const OvxStringT& name : data.sheet.GetNames())
+        SetJournal(*data.sheet.GetStyle(name), &data.history);
+    data.cascades.SetJournal(&data.history);
+}
+
 } // namespace
 
 std::unique_ptr<Drawing> Drawing::Open(const std::filesystem::path& file, std::vector<std::string>& warnings,
@@ -38,6 +48,7 @@ std::unique_ptr<Drawing> Drawing::Open(const std::filesystem::path& file, std::v
     auto data = std::make_unique<DrawingData>(file, extensions);
     DrawingReader(*data, warnings).Read();
     RegisterProperties(data->table);
+    StartHistory(*data);
     return std::make_unique<Drawing>(std::move(data));
 }
 

@@ -22,6 +22,7 @@ namespace ReferenceHost
 {
 
 struct DrawingData;
+class History;
 
 /// How a drawing lies on disk.
 enum class DrawingForm
@@ -102,6 +103,29 @@ public:
     /// The categories that every whole style has a substyle of: fill, outline, paragraph, character, then
     /// those of the extensions in the order given.
     [[nodiscard]] const std::vector<Styles::PropertyKey>& GetCategories() const noexcept;
+
+    // Editing: each operation is a step of history, or part of the one that is open.
+
+    /// What was changed since the drawing was opened. Every change of its styles, whoever makes it, is told
+    /// there.
+    [[nodiscard]] History& GetHistory() noexcept;
+
+    /// Adds a named style without values, behind all others; a whole style has all its substyles.
+    ///
+    /// @returns the style; null, and nothing happens, when `name` is empty or taken, or the category is not
+    ///          one of this drawing's.
+    Styles::Style* AddStyle(const Styles::PropertyKey& category, const OvxStringT& name);
+
+    /// Gives a named style another name, which is also what people see of it from then on.
+    ///
+    /// @returns whether it did: not when `name` is unknown, or `newName` is empty or taken.
+    bool RenameStyle(const OvxStringT& name, const OvxStringT& newName);
+
+    /// Adds an entry to the palette, or changes its look; every colour in the drawing that refers to it gets
+    /// the new look.
+    ///
+    /// @returns whether anything changed: not when `name` is empty, or the entry looks like this already.
+    bool DefinePaletteColour(const OvxStringT& name, CLR_COLORSPEC::Rgb look);
 
 private:
     std::unique_ptr<DrawingData> data;

@@ -6,6 +6,8 @@
 #include "reference_host/document/NamedStyles.h"
 #include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
+#include "reference_host/document/TextSettling.h"
+#include "reference_host/history/History.h"
 #include "reference_host/style_model/NamedStyleSheet.h"
 
 #include <deque>
@@ -24,7 +26,9 @@ struct DrawingData
         : path(std::move(drawing)),
           table(extensions),
           defaultStyle(MakeWholeStyle(nullptr, table)),
-          cascades(table, *defaultStyle)
+          cascades(table, *defaultStyle),
+          settling(table, cascades),
+          history(&settling)
     {
     }
 
@@ -37,6 +41,8 @@ struct DrawingData
     NamedStyleSheet sheet;
     StyleAppearances appearances;
     CascadeStyles cascades;
+    TextSettling settling;
+    History history; ///< Hears of changes from the time when the file has been read.
     std::vector<DrawingPage> pages;
     std::deque<DrawingObject> objects;
 };

@@ -24,8 +24,13 @@ OvxStringT DrawingObject::GetId() const
 Styles::Style* DrawingObject::GetStyle()
 {
     if (style == nullptr && styles != nullptr)
-        style = styles->Make(cascade);
+        style = styles->MakeFor({this, nullptr}, cascade);
     return style.get();
+}
+
+bool DrawingObject::IsReadWithPaletteColour(const OvxStringT& entry) const
+{
+    return styles != nullptr && styles->RefersToPalette(cascade, entry);
 }
 
 } // namespace ReferenceHost

@@ -55,6 +55,9 @@ public:
     /// The whole style, owned by the object and made when it is first asked for; null for a group.
     [[nodiscard]] Styles::Style* GetStyle();
 
+    /// Tells whether the file gives the object a colour by this palette entry, apart from its named style.
+    [[nodiscard]] bool IsReadWithPaletteColour(const OvxStringT& entry) const;
+
     /// The paragraphs of the text, in order, also those in lists. Empty for a shape without text, which
     /// stands for itself, and for a group. The units keep their addresses.
     [[nodiscard]] std::vector<TextUnit>& GetParagraphs() noexcept { return paragraphs; }

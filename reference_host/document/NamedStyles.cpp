@@ -6,6 +6,7 @@
 #include "reference_host/document/StyleParents.h"
 #include "reference_host/style_model/StyleHosting.h"
 
+#include "host/style_model/CategoryNames.h"
 #include "host/utils/Utf8.h"
 
 #include <algorithm>
@@ -41,6 +42,16 @@ void FillDefaultStyle(Styles::Style& defaults, const StyleRecord* record, const 
         WriteValues(defaults, *record, table, warnings);
 }
 
+std::unique_ptr<Styles::Style> MakeNamedStyle(const Styles::PropertyKey& category,
+                                              const PropertyMappings& table, Styles::Style& defaults)
+{
+    const bool isWhole = category == Styles::StyleCategoryName;
+    std::unique_ptr<Styles::Style> style =
+        isWhole ? MakeWholeStyle(nullptr, table) : std::make_unique<Styles::Style>(nullptr, category);
+    SetDefaultStyle(*style, isWhole ? &defaults : defaults.GetSubstyle(category, false));
+    return style;
+}
+
 NamedStyleBuilder::NamedStyleBuilder(const PropertyMappings& properties, Styles::Style& defaultStyle,
                                      NamedStyleSheet& target, StyleAppearances& appearanceTarget,
                                      Warnings& reports)
@@ -66,28 +77,20 @@ void NamedStyleBuilder::Build(StyleCatalogue& catalogue)
 
 void NamedStyleBuilder::AddToSheet(StyleRecord& record)
 {
-    std::unique_ptr<Styles::Style> style;
-    if (record.ownCategory.empty())
+    Styles::PropertyKey category = Styles::StyleCategoryName;
+    if (!record.ownCategory.empty())
     {
-        style = MakeWholeStyle(nullptr, table);
-        SetDefaultStyle(*style, &defaults);
-    }
-    else
-    {
-        const Styles::PropertyKey category(
-            Styles::PooledString<Styles::StringPool>(OvxUtils::FromUtf8(record.ownCategory)));
+        category = Styles::PooledString<Styles::StringPool>(OvxUtils::FromUtf8(record.ownCategory));
         const auto& known = table.GetCategories();
         if (std::ranges::find(known, category) == known.end())
         {
             return warnings.AddAbout(record, "its category \"" + record.ownCategory +
                                                  "\" is not known here; it was left out");
         }
-        style = std::make_unique<Styles::Style>(nullptr, category);
-        SetDefaultStyle(*style, defaults.GetSubstyle(category, false));
     }
     const OvxStringT name = PickName(record);
     appearances[name] = {OvxUtils::FromUtf8(record.displayName), record.isHidden};
-    record.style = sheet.Add(name, std::move(style));
+    record.style = sheet.Add(name, MakeNamedStyle(category, table, defaults));
 }
 
 OvxStringT NamedStyleBuilder::PickName(const StyleRecord& record)

@@ -8,6 +8,7 @@
 #include "host/style_model/Style.h"
 #include "host/utils/OvxStringT.h"
 
+#include <memory>
 #include <unordered_map>
 
 namespace ReferenceHost
@@ -26,6 +27,11 @@ using StyleAppearances = std::unordered_map<OvxStringT, StyleAppearance>;
 /// Fills the default style with what the file sets there; null sets nothing.
 void FillDefaultStyle(Styles::Style& defaults, const StyleRecord* record, const PropertyMappings& table,
                       Warnings& warnings);
+
+/// A new style of a category without values, as named styles are: a whole style has all its substyles. Falls
+/// back to `defaults`, the default style of the drawing, or to the substyle of that category in it.
+[[nodiscard]] std::unique_ptr<Styles::Style>
+MakeNamedStyle(const Styles::PropertyKey& category, const PropertyMappings& table, Styles::Style& defaults);
 
 /// Turns the named graphic styles of the file into styles of a sheet.
 ///

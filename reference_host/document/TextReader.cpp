@@ -110,7 +110,8 @@ void TextReader::ReadParagraph(pugi::xml_node paragraph)
     levels.insert(levels.end(), shapeLevels->begin(), shapeLevels->end());
 
     const std::size_t cascade = CascadeOf(levels);
-    target->GetParagraphs().emplace_back(TextUnit::Kind::Paragraph, *target, cascades, cascade);
+    target->GetParagraphs().emplace_back(TextUnit::Kind::Paragraph, *target, target->GetParagraphs().size(),
+                                         cascades, cascade);
     ReadInline(paragraph, paragraph, levels);
     if (!lastSpan)
         TakeContent(paragraph, CascadeOf(levels));
@@ -170,7 +171,8 @@ void TextReader::TakeContent(pugi::xml_node span, std::size_t cascade)
         TakeContent(blank->span, blank->cascade);
     if (lastSpan == span)
         return;
-    target->GetRuns().emplace_back(TextUnit::Kind::Run, *target, cascades, cascade);
+    target->GetRuns().emplace_back(TextUnit::Kind::Run, *target, target->GetParagraphs().size() - 1, cascades,
+                                   cascade);
     lastSpan = span;
 }
 

@@ -5,16 +5,22 @@
 namespace ReferenceHost
 {
 
-TextUnit::TextUnit(Kind itsKind, DrawingObject& itsObject, CascadeStyles& itsStyles, std::size_t itsCascade)
-    : object(&itsObject), styles(&itsStyles), cascade(itsCascade), kind(itsKind)
+TextUnit::TextUnit(Kind itsKind, DrawingObject& itsObject, std::size_t itsParagraph, CascadeStyles& itsStyles,
+                   std::size_t itsCascade)
+    : object(&itsObject), styles(&itsStyles), cascade(itsCascade), paragraph(itsParagraph), kind(itsKind)
 {
 }
 
 Styles::Style* TextUnit::GetStyle()
 {
     if (style == nullptr)
-        style = styles->Make(cascade);
+        style = styles->MakeFor({object, this}, cascade);
     return style.get();
+}
+
+bool TextUnit::IsReadWithPaletteColour(const OvxStringT& entry) const
+{
+    return styles->RefersToPalette(cascade, entry);
 }
 
 } // namespace ReferenceHost

@@ -2,6 +2,7 @@
 
 #include "host/Export.h"
 #include "host/style_model/Style.h"
+#include "host/utils/OvxStringT.h"
 
 #include <cstddef>
 #include <memory>
@@ -29,20 +30,28 @@ public:
 
     /// Made by the reader. Object and styles are borrowed and outlive the unit; the cascade is a number of
     /// those styles.
-    TextUnit(Kind itsKind, DrawingObject& itsObject, CascadeStyles& itsStyles, std::size_t itsCascade);
+    TextUnit(Kind itsKind, DrawingObject& itsObject, std::size_t itsParagraph, CascadeStyles& itsStyles,
+             std::size_t itsCascade);
 
     [[nodiscard]] Kind GetKind() const noexcept { return kind; }
 
     /// The shape whose text this is.
     [[nodiscard]] DrawingObject& GetObject() const noexcept { return *object; }
 
+    /// The place of the paragraph among those of the shape, from 0: of a run, the one that it stands in.
+    [[nodiscard]] std::size_t GetParagraph() const noexcept { return paragraph; }
+
     /// The unit's whole style, owned by the unit and made when it is first asked for; never null.
     [[nodiscard]] Styles::Style* GetStyle();
+
+    /// Tells whether the file gives the unit a colour by this palette entry, apart from the named style.
+    [[nodiscard]] bool IsReadWithPaletteColour(const OvxStringT& entry) const;
 
 private:
     DrawingObject* object;
     CascadeStyles* styles;
     std::size_t cascade;
+    std::size_t paragraph;
     std::unique_ptr<Styles::Style> style; ///< Null until asked for: most units of a large drawing never are.
     Kind kind;
 };

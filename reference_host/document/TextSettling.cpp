@@ -1,0 +1,262 @@
+#include "reference_host/document/TextSettling.h"
+
+#include "reference_host/document/DrawingObject.h"
+#include "reference_host/document/TextUnit.h"
+#include "reference_host/history/StepChanges.h"
+
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+using Styles::PropertyKey;
+using Styles::Style;
+using Styles::StyleData;
+
+namespace
+{
+
+/// A text or paragraph property that changed.
+struct ValueChange
+{
+    PropertyKey category;
+    PropertyKey key;
+    OvxUtils::Any before; ///< Empty when it was not set.
+};
+
+/// What changed in one whole style.
+struct WholeChange
+{
+    std::vector<ValueChange> values;
+    std::vector<PropertyKey> substylesWithNewParent; ///< Those that concern text.
+    bool hasNewParent = false;
+
+    [[nodiscard]] bool Contains(const ValueChange& sought) const
+    {
+        return std::ranges::any_of(values,
+                                   [&sought](const ValueChange& change) {
+                                       return change.key == sought.key && change.category == sought.category;
+                                   });
+    }
+};
+
+/// What changed in a shape and its text.
+struct ShapeChange
+{
+    WholeChange object;
+    std::unordered_map<const TextUnit*, WholeChange> units;
+
+    [[nodiscard]] const WholeChange& Of(const TextUnit& unit) const
+    {
+        static const WholeChange none;
+        const auto found = units.find(&unit);
+        return found == units.end() ? none : found->second;
+    }
+};
+
+/// The own value of a property in a substyle of a whole style; empty when it is not set.
+OvxUtils::Any OwnValue(const Style& whole, const ValueChange& property)
+{
+    const Style* const substyle = StyleData::Of(whole).FindSubstyle(property.category);
+    const OvxUtils::Any* const value =
+        substyle == nullptr ? nullptr : StyleData::Of(*substyle).FindOwn(property.key);
+    return value == nullptr ? OvxUtils::Any() : *value;
+}
+
+void Write(Style& whole, const ValueChange& property, OvxUtils::Any value)
+{
+    whole.SetPathProperty({property.category, property.key}, std::move(value));
+}
+
+bool ConcernsText(const PropertyMappings& table, PropertyKey category, PropertyKey key)
+{
+    const PropertyMapping* const row = table.FindRow(category, key);
+    return row != nullptr && row->element != PropertyElement::Graphic;
+}
+
+bool ConcernsText(const PropertyMappings& table, PropertyKey category)
+{
+    return std::ranges::any_of(table.GetRows(),
+                               [category](const PropertyMapping& row) {
+                                   return row.category == category && row.element != PropertyElement::Graphic;
+                               });
+}
+
+/// Adds what changed in the substyle `image` is of.
+void AddSubstyle(WholeChange& change, const StyleImage& image, const PropertyMappings& table)
+{
+    const StyleData& now = image.GetStyle();
+    std::set<PropertyKey> keys;
+    for (const Styles::OwnProperty& property : image.GetValues())
+        keys.insert(property.key);
+    for (const Styles::OwnProperty& property : now.properties)
+        keys.insert(property.key);
+    for (const PropertyKey& key : keys)
+    {
+        const OvxUtils::Any* const before = image.Find(key);
+        const OvxUtils::Any* const after = now.FindOwn(key);
+        const bool isSame =
+            (before == nullptr) == (after == nullptr) && (before == nullptr || *before == *after);
+        if (!isSame && ConcernsText(table, now.name, key))
+            change.values.push_back({now.name, key, before == nullptr ? OvxUtils::Any() : *before});
+    }
+    if (now.GetParent() != image.GetParent() && ConcernsText(table, now.name))
+        change.substylesWithNewParent.push_back(now.name);
+}
+
+/// Brings one shape in line.
+class ShapeSettling
+{
+public:
+    ShapeSettling(DrawingObject& shape, const ShapeChange& shapeChange) : object(shape), change(shapeChange)
+    {
+    }
+
+    void Run()
+    {
+        SpreadValues();
+        SpreadParent();
+        SpreadParentsOfSubstyles();
+        ClearOuterLevels();
+    }
+
+private:
+    void SpreadValues()
+    {
+        auto run = object.GetRuns().begin();
+        for (TextUnit& paragraph : object.GetParagraphs())
+        {
+            const auto first = run;
+            while (run != object.GetRuns().end() && run->GetParagraph() == paragraph.GetParagraph())
+                ++run;
+            std::vector<ValueChange> changed = change.Of(paragraph).values;
+            for (const ValueChange& value : change.object.values)
+            {
+                if (Follow(paragraph, *object.GetStyle(), value))
+                    changed.push_back(value);
+            }
+            for (const ValueChange& value : changed)
+                std::for_each(first, run,
+                              [&](TextUnit& each) { Follow(each, *paragraph.GetStyle(), value); });
+        }
+    }
+
+    /// Gives a unit the value of the level outside it, when it had the one of that level before.
+    bool Follow(TextUnit& unit, const Style& outer, const ValueChange& value) const
+    {
+        if (change.Of(unit).Contains(value) || OwnValue(*unit.GetStyle(), value) != value.before)
+            return false;
+        Write(*unit.GetStyle(), value, OwnValue(outer, value));
+        return true;
+    }
+
+    void SpreadParent()
+    {
+        Style* const source = FindNewParentSource();
+        if (source == nullptr)
+            return;
+        Style* const parent = source->GetParent();
+        object.GetStyle()->SetParent(parent);
+        ForEachUnit([parent](TextUnit& unit) { unit.GetStyle()->SetParent(parent); });
+    }
+
+    /// The style that was given another parent: the object's, or else the first of the text; null for none.
+    Style* FindNewParentSource()
+    {
+        if (change.object.hasNewParent)
+            return object.GetStyle();
+        Style* found = nullptr;
+        ForEachUnit(
+            [&](TextUnit& unit)
+            {
+                if (found == nullptr && change.Of(unit).hasNewParent)
+                    found = unit.GetStyle();
+            });
+        return found;
+    }
+
+    void SpreadParentsOfSubstyles()
+    {
+        for (const PropertyKey& category : change.object.substylesWithNewParent)
+        {
+            const Style* const source = object.GetStyle()->GetSubstyle(category, false);
+            ForEachUnit(
+                [&](TextUnit& unit)
+                {
+                    const auto& itsOwn = change.Of(unit).substylesWithNewParent;
+                    if (std::ranges::find(itsOwn, category) == itsOwn.end())
+                        Styles::GetStyleOrSubstyle(unit.GetStyle(), category, true)
+                            ->SetParent(source->GetParent());
+                });
+        }
+    }
+
+    void ClearOuterLevels()
+    {
+        ForEachUnit(
+            [this](TextUnit& unit)
+            {
+                for (const ValueChange& value : change.Of(unit).values)
+                {
+                    if (!value.before.IsEmpty() && OwnValue(*unit.GetStyle(), value).IsEmpty())
+                        ClearAround(unit, value);
+                }
+            });
+    }
+
+    void ClearAround(const TextUnit& unit, const ValueChange& value)
+    {
+        if (unit.GetKind() == TextUnit::Kind::Run)
+            Write(*object.GetParagraphs()[unit.GetParagraph()].GetStyle(), value, {});
+        Write(*object.GetStyle(), value, {});
+    }
+
+    template <class Visitor>
+    void ForEachUnit(const Visitor& visit)
+    {
+        std::ranges::for_each(object.GetParagraphs(), visit);
+        std::ranges::for_each(object.GetRuns(), visit);
+    }
+
+    DrawingObject& object;
+    const ShapeChange& change;
+};
+
+} // namespace
+
+TextSettling::TextSettling(const PropertyMappings& properties, CascadeStyles& cascadeStyles)
+    : table(properties), cascades(cascadeStyles)
+{
+}
+
+void TextSettling::PrepareForChanges()
+{
+    cascades.FixRelativeValues();
+}
+
+void TextSettling::Settle(const StepChanges& changes)
+{
+    // Bringing shapes in line adds to the changes: what is to be done is known before.
+    std::unordered_map<DrawingObject*, ShapeChange> shapes;
+    for (const auto& [style, image] : changes.GetImages())
+    {
+        const StyleData& whole = style->owner == nullptr ? *style : StyleData::Of(*style->owner);
+        const StyleUser user = cascades.FindUser(whole);
+        if (user.object == nullptr || user.object->GetParagraphs().empty())
+            continue;
+        ShapeChange& shape = shapes[user.object];
+        WholeChange& change = user.unit == nullptr ? shape.object : shape.units[user.unit];
+        if (style->owner != nullptr)
+            AddSubstyle(change, image, table);
+        else if (style->GetParent() != image.GetParent())
+            change.hasNewParent = true;
+    }
+    for (const auto& [object, change] : shapes)
+        ShapeSettling(*object, change).Run();
+}
+
+} // namespace ReferenceHost
