@@ -31,6 +31,7 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
     reference_host/document/DrawingPage.h
     reference_host/document/PropertyMapping.h
     reference_host/document/TextUnit.h
+    reference_host/history/History.h
     reference_host/resources/Language.h
     reference_host/services/ActiveStyleSource.h
     reference_host/services/Application.h
@@ -38,6 +39,7 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
     reference_host/services/DocumentStylesSource.h
     reference_host/services/HostObject.h
     reference_host/services/IConfirmation.h
+    reference_host/services/IDocumentEditor.h
     reference_host/services/IDocumentStyles.h
     reference_host/services/Idle.h
     reference_host/services/LoadedModule.h
@@ -46,6 +48,7 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
     reference_host/services/UserFolders.h
     reference_host/services/UserInterface.h
     reference_host/style_model/CategoryRegistry.h
+    reference_host/style_model/IStyleJournal.h
     reference_host/style_model/NamedStyleSheet.h)
 
 install(TARGETS styleproperties_host styleproperties EXPORT StylePropertiesLibrary

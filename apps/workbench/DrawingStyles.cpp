@@ -23,4 +23,19 @@ OvxStringT DrawingStyles::GetDisplayName(const OvxStringT& styleName) const
     return drawing->GetDisplayName(styleName);
 }
 
+ReferenceHost::History& DrawingStyles::GetHistory()
+{
+    return drawing->GetHistory();
+}
+
+Styles::Style* DrawingStyles::AddStyle(const Styles::PropertyKey& category, const OvxStringT& name)
+{
+    return drawing->AddStyle(category, name);
+}
+
+bool DrawingStyles::RenameStyle(const OvxStringT& name, const OvxStringT& newName)
+{
+    return drawing->RenameStyle(name, newName);
+}
+
 } // namespace Workbench

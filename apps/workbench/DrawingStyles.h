@@ -2,6 +2,7 @@
 
 #include "host/utils/OvxStringT.h"
 #include "reference_host/document/Drawing.h"
+#include "reference_host/services/IDocumentEditor.h"
 #include "reference_host/services/IDocumentStyles.h"
 
 #include <vector>
@@ -9,8 +10,8 @@
 namespace Workbench
 {
 
-/// The styles of a drawing as the application asks for them. Borrows the drawing.
-class DrawingStyles : public ReferenceHost::IDocumentStyles
+/// The styles of a drawing as the application asks for them, and how they are changed. Borrows the drawing.
+class DrawingStyles : public ReferenceHost::IDocumentStyles, public ReferenceHost::IDocumentEditor
 {
 public:
     explicit DrawingStyles(ReferenceHost::Drawing& openDrawing) : drawing(&openDrawing) {}
@@ -26,6 +27,12 @@ public:
 
     [[nodiscard]] bool IsHidden(const OvxStringT& styleName) const override;
     [[nodiscard]] OvxStringT GetDisplayName(const OvxStringT& styleName) const override;
+
+    ReferenceHost::IDocumentEditor* GetEditor() override { return this; }
+
+    ReferenceHost::History& GetHistory() override;
+    Styles::Style* AddStyle(const Styles::PropertyKey& category, const OvxStringT& name) override;
+    bool RenameStyle(const OvxStringT& name, const OvxStringT& newName) override;
 
 private:
     ReferenceHost::Drawing* drawing;

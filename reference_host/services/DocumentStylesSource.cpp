@@ -1,17 +1,76 @@
 #include "reference_host/services/DocumentStylesSource.h"
 
+#include "reference_host/history/History.h"
+#include "reference_host/history/StepChanges.h"
+#include "reference_host/services/DocumentStyleModifier.h"
+#include "reference_host/services/IDocumentEditor.h"
+#include "reference_host/services/StyleExtraction.h"
+#include "reference_host/services/TransactionOverrides.h"
+#include "reference_host/style_model/StyleResolution.h"
+
+#include "host/data_binding/IAppEventBroadcaster.h"
+#include "host/data_binding/PendingEvent.h"
+#include "host/resources/Resources.h"
+#include "host/style_model/CategoryNames.h"
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <utility>
+
 namespace ReferenceHost
 {
 
-DocumentStylesSource::DocumentStylesSource(IDocumentStyles& openDocument) noexcept : document(openDocument)
+using Styles::Style;
+
+namespace
 {
+
+OvxStringT StepName(const wchar_t* key)
+{
+    return Framework::Resources::GetString(key);
 }
 
-DocumentStylesSource::~DocumentStylesSource() = default;
+/// Lets panels read again what they show, when the application is idle.
+void AnnounceChange()
+{
+    const OvxStringT name = L"StylePropertiesChange";
+    OvxUtils::Singleton<IAppEventBroadcaster>::GetInstance().NotifyListenersOnIdleImpl(
+        name, true,
+        std::make_shared<PendingEvent<Styles::PropertyKey, OvxStringT>>(name, Styles::StyleCategoryName,
+                                                                        OvxStringT()));
+}
+
+} // namespace
+
+DocumentStylesSource::DocumentStylesSource(IDocumentStyles& openDocument)
+    : document(openDocument), editor(openDocument.GetEditor())
+{
+    if (editor == nullptr)
+        return;
+    modifier = std::make_unique<DocumentStyleModifier>(editor->GetHistory());
+    editor->GetHistory().SetListener(
+        [this](HistoryEvent event, const StepChanges& changes)
+        {
+            if (event != HistoryEvent::Recorded || !changes.ConcernsOnly(document.GetDefaultStyles()))
+                AnnounceChange();
+        });
+}
+
+DocumentStylesSource::~DocumentStylesSource()
+{
+    if (editor != nullptr)
+        editor->GetHistory().SetListener(nullptr);
+}
 
 void DocumentStylesSource::SetIgnoreCharacterStyleSiblings(bool ignore) noexcept
 {
     ignoreCharacterStyleSiblings = ignore;
+}
+
+void DocumentStylesSource::SetSelectedStyles(std::vector<Style*> styles)
+{
+    selectedStyles = std::move(styles);
 }
 
 Styles::StyleSheet* DocumentStylesSource::GetStyleSheet()
@@ -41,32 +100,65 @@ std::vector<Styles::Style*> DocumentStylesSource::GetDefaultStyles()
 
 IMultipleStyleModifier* DocumentStylesSource::GetMultipleStyleModifier()
 {
-    return nullptr;
+    return modifier.get();
 }
 
-void DocumentStylesSource::ApplyToParent(std::function<void(const Styles::PropertyPaths&)> /*clear*/,
-                                         Styles::Style* /*destination*/,
-                                         const Styles::PropertyPaths& /*paths*/,
-                                         std::unique_ptr<Styles::Style> /*values*/)
+void DocumentStylesSource::ApplyToParent(std::function<void(const Styles::PropertyPaths&)> clear,
+                                         Style* destination, const Styles::PropertyPaths& paths,
+                                         std::unique_ptr<Style> values)
 {
+    const bool isComplete = clear != nullptr && destination != nullptr && values != nullptr;
+    if (editor == nullptr || !isComplete || IsReadOnly(*destination))
+        return;
+    const History::Step step(editor->GetHistory(), StepName(L"history.apply-to-parent"));
+    destination->SetProperties(paths, values.get());
+    clear(paths);
 }
 
-void DocumentStylesSource::ReplaceProperties(Styles::Style* /*style*/, const Styles::PropertyPaths& /*paths*/,
-                                             std::unique_ptr<Styles::Style> /*values*/, bool /*dropParent*/,
+void DocumentStylesSource::ReplaceProperties(Style* style, const Styles::PropertyPaths& paths,
+                                             std::unique_ptr<Style> values, bool dropParent,
                                              bool /*reserved*/)
 {
+    if (editor == nullptr || style == nullptr || values == nullptr || IsReadOnly(*style))
+        return;
+    const History::Step step(editor->GetHistory(),
+                             StepName(dropParent ? L"history.drop-parent" : L"history.edit"));
+    style->SetProperties(paths, values.get());
+    if (dropParent)
+        style->SetParent(nullptr);
 }
 
-void DocumentStylesSource::CreateStyle(const Styles::PropertyKey& /*category*/, const OvxStringT& /*name*/)
+void DocumentStylesSource::CreateStyle(const Styles::PropertyKey& category, const OvxStringT& name)
 {
+    if (editor == nullptr)
+        return;
+    const History::Step step(editor->GetHistory(), StepName(L"history.create-style"));
+    Style* const created = editor->AddStyle(category, name);
+    if (created == nullptr)
+        return;
+    std::vector<Style*> styles;
+    std::ranges::copy_if(selectedStyles, std::back_inserter(styles),
+                         [this](const Style* style) { return MayInherit(style); });
+    ExtractInto(*created, styles);
 }
 
-void DocumentStylesSource::ApplyStyle(Styles::Style* /*style*/, bool /*reserved*/)
+void DocumentStylesSource::ApplyStyle(Style* style, bool /*reserved*/)
 {
+    if (editor == nullptr || style == nullptr)
+        return;
+    const History::Step step(editor->GetHistory(), StepName(L"history.apply-style"));
+    for (Style* const target : selectedStyles)
+        SetParent(target, style, true);
 }
 
-void DocumentStylesSource::SetParent(Styles::Style* /*target*/, Styles::Style* /*parent*/, bool /*reserved*/)
+void DocumentStylesSource::SetParent(Style* target, Style* parent, bool /*reserved*/)
 {
+    if (editor == nullptr || !MayInherit(target) || (parent != nullptr && IsDefault(*parent)))
+        return;
+    const History::Step step(editor->GetHistory(), StepName(L"history.set-parent"));
+    Style* const part = parent == nullptr ? target : PartOfCategory(target, parent->GetCategoryName());
+    if (part != nullptr)
+        part->SetParent(parent);
 }
 
 void DocumentStylesSource::ApplyPresetToStyles(const OvxStringT& /*name*/, const OvxStringT& /*category*/,
@@ -93,15 +185,39 @@ void DocumentStylesSource::FillPresetItems(std::vector<Styles::PresetListEntry> 
 
 void DocumentStylesSource::BeginGroup()
 {
+    if (editor == nullptr)
+        return;
+    editor->GetHistory().Open(StepName(L"history.edit"));
+    if (groupCount++ == 0)
+        overrides = std::make_unique<TransactionOverrides>();
 }
 
-void DocumentStylesSource::EndGroup(bool /*commit*/)
+void DocumentStylesSource::EndGroup(bool commit)
 {
+    if (groupCount == 0)
+        return;
+    if (--groupCount == 0)
+        overrides.reset();
+    if (commit)
+        editor->GetHistory().Close();
+    else
+        editor->GetHistory().Cancel();
 }
 
 Styles::IModifyStyleOverrides* DocumentStylesSource::GetTransactionOverrides()
 {
-    return nullptr;
+    return overrides.get();
+}
+
+bool DocumentStylesSource::IsDefault(const Style& style) const
+{
+    const std::vector<Style*> defaults = document.GetDefaultStyles();
+    return std::ranges::find(defaults, &OutermostOwner(style)) != defaults.end();
+}
+
+bool DocumentStylesSource::MayInherit(const Style* style) const
+{
+    return style != nullptr && !IsReadOnly(*style) && !IsDefault(*style);
 }
 
 } // namespace ReferenceHost

@@ -10,6 +10,8 @@
 namespace ReferenceHost
 {
 
+class IDocumentEditor;
+
 /// The styles of an open document, whatever kind of document it is.
 ///
 /// Everything returned is borrowed from the document and lives as long as it does.
@@ -27,6 +29,9 @@ public:
 
     /// What people see for a named style; a name that the document does not know comes back as it is.
     [[nodiscard]] virtual OvxStringT GetDisplayName(const OvxStringT& styleName) const = 0;
+
+    /// How the document is changed; null, which it is unless a document says otherwise, when it is not.
+    virtual IDocumentEditor* GetEditor() { return nullptr; }
 
 protected:
     ~IDocumentStyles() = default;
