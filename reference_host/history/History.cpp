@@ -146,11 +146,8 @@ void History::BeforeChange(Styles::StyleData& data)
     NeedChanges().KeepStyle(data);
 }
 
-void History::BeforePlacing(Styles::Style& owner, const Styles::PropertyKey& key,
-                            const Styles::Style& substyle)
+void History::BeforePlacing(Styles::Style& owner, const Styles::PropertyKey& key)
 {
-    if (open.empty() && !HasContent(substyle))
-        return;
     NeedChanges().KeepFreePlace(owner, key);
 }
 

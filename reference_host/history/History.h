@@ -30,7 +30,8 @@ enum class HistoryEvent
 /// A step holds what changed between Open and the Close that belongs to it. Steps open within a step join it:
 /// the outermost gives the name, and one of them can still be cancelled by itself. A change while none is
 /// open goes to a step of its own, which ends with the next Open, Undo, Redo or question. A step that leaves
-/// everything as it was is not recorded; one that is recorded takes the place of those that could be redone.
+/// everything as it was is not recorded, nor one that only made empty substyles, as looking at a style does;
+/// one that is recorded takes the place of those that could be redone.
 ///
 /// Undone styles and substyles live on, so that their addresses hold as long as a step can bring them back.
 /// One thread, the user interface's.
@@ -112,10 +113,7 @@ public:
 
     void BeforeChange(Styles::StyleData& data) override;
 
-    /// A substyle without content is no change while no step is open: looking at a style may make it.
-    void BeforePlacing(Styles::Style& owner, const Styles::PropertyKey& key,
-                       const Styles::Style& substyle) override;
-
+    void BeforePlacing(Styles::Style& owner, const Styles::PropertyKey& key) override;
     void TakeRemoved(Styles::Style& owner, const Styles::PropertyKey& key,
                      std::unique_ptr<Styles::Style>& removed) override;
 

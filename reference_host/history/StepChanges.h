@@ -4,6 +4,8 @@
 #include "reference_host/history/StyleImage.h"
 #include "reference_host/history/SubstylePlace.h"
 
+#include "host/Export.h"
+
 #include <map>
 #include <memory>
 #include <span>
@@ -51,7 +53,7 @@ public:
     [[nodiscard]] const Images& GetImages() const noexcept { return images; }
 
     /// Tells whether nothing but these whole styles, their substyles included, changed.
-    [[nodiscard]] bool ConcernsOnly(std::span<Styles::Style* const> wholes) const;
+    [[nodiscard]] STYLEPROPERTIES_HOST_API bool ConcernsOnly(std::span<Styles::Style* const> wholes) const;
 
     // Ending
 

@@ -17,9 +17,8 @@ public:
     /// The own values, the parent, the category or the default style of `data` may change now.
     virtual void BeforeChange(Styles::StyleData& data) = 0;
 
-    /// `substyle` is put in place under `key` of `owner`, where nothing is any more.
-    virtual void BeforePlacing(Styles::Style& owner, const Styles::PropertyKey& key,
-                               const Styles::Style& substyle) = 0;
+    /// A substyle is put in place under `key` of `owner`, where nothing is any more.
+    virtual void BeforePlacing(Styles::Style& owner, const Styles::PropertyKey& key) = 0;
 
     /// The substyle under `key` of `owner` is taken out: the journal takes it over and leaves null. It still
     /// knows its owner; whoever keeps it cuts it off.

@@ -81,7 +81,7 @@ void StyleData::Place(Style& self, const PropertyKey& key, std::unique_ptr<Style
         return;
 
     if (journal != nullptr)
-        journal->BeforePlacing(self, key, *substyle);
+        journal->BeforePlacing(self, key);
     Exchange(self, key, substyle);
 }
 
