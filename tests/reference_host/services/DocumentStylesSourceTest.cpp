@@ -36,7 +36,7 @@ public:
     [[nodiscard]] OvxStringT GetUnusedStyleName(const OvxStringT& base) const override { return base; }
 };
 
-/// A source over a document with a sheet and one default style.
+/// A source over a document with a sheet and one default style that cannot be changed.
 class StyleSource : public ::testing::Test
 {
 protected:

@@ -120,6 +120,81 @@ TEST(NamedStyleSheet, NamesTenThousandStylesFromOneBase)
     EXPECT_EQ(sheet.GetNames().back(), L"Box 10000");
 }
 
+TEST(NamedStyleSheet, TakesStylesInAtAPlace)
+{
+    NamedStyleSheet sheet;
+    sheet.Add(L"First", MakeWhole());
+    Style* const last = sheet.Add(L"Last", MakeWhole());
+
+    Style* const middle = sheet.InsertAt(1, L"Middle", MakeWhole());
+    Style* const behind = sheet.InsertAt(99, L"Behind", MakeWhole());
+
+    EXPECT_THAT(sheet.GetNames(), ElementsAre(L"First", L"Middle", L"Last", L"Behind"));
+    EXPECT_EQ(sheet.GetStyle(L"Middle"), middle);
+    EXPECT_EQ(sheet.GetStyle(L"Behind"), behind);
+    EXPECT_EQ(sheet.GetStyleName(last), L"Last");
+    EXPECT_EQ(sheet.GetPlace(L"Last"), 2U);
+    EXPECT_EQ(sheet.InsertAt(0, L"First", MakeWhole()), nullptr);
+}
+
+TEST(NamedStyleSheet, GivesStylesUp)
+{
+    NamedStyleSheet sheet;
+    Style* const first = sheet.Add(L"First", MakeWhole());
+    Style* const last = sheet.Add(L"Last", MakeWhole(first));
+
+    const std::unique_ptr<Style> taken = sheet.TakeOut(L"First");
+
+    EXPECT_EQ(taken.get(), first);
+    EXPECT_EQ(sheet.GetStyle(L"First"), nullptr);
+    EXPECT_EQ(sheet.GetStyleName(first), L"");
+    EXPECT_EQ(sheet.GetStyleName(last), L"Last");
+    EXPECT_EQ(last->GetParent(), first);
+    EXPECT_EQ(sheet.TakeOut(L"First"), nullptr);
+}
+
+TEST(NamedStyleSheet, RenamesStylesInTheirPlace)
+{
+    NamedStyleSheet sheet;
+    Style* const first = sheet.Add(L"First", MakeWhole());
+    sheet.Add(L"Last", MakeWhole());
+
+    EXPECT_TRUE(sheet.Rename(L"First", L"Front"));
+
+    EXPECT_THAT(sheet.GetNames(), ElementsAre(L"Front", L"Last"));
+    EXPECT_EQ(sheet.GetStyle(L"Front"), first);
+    EXPECT_EQ(sheet.GetStyle(L"First"), nullptr);
+    EXPECT_EQ(sheet.GetStyleName(first), L"Front");
+}
+
+TEST(NamedStyleSheet, RefusesNewNamesThatAreTakenOrEmpty)
+{
+    NamedStyleSheet sheet;
+    sheet.Add(L"First", MakeWhole());
+    sheet.Add(L"Last", MakeWhole());
+
+    EXPECT_FALSE(sheet.Rename(L"First", L"Last"));
+    EXPECT_FALSE(sheet.Rename(L"First", L""));
+    EXPECT_FALSE(sheet.Rename(L"Unknown", L"New"));
+    EXPECT_THAT(sheet.GetNames(), ElementsAre(L"First", L"Last"));
+}
+
+TEST(NamedStyleSheet, OffersNamesAgainThatBecameFree)
+{
+    NamedStyleSheet sheet;
+    for (int i = 0; i < 3; ++i)
+        sheet.Add(sheet.GetUnusedStyleName(L"Box"), MakeWhole());
+    ASSERT_EQ(sheet.GetUnusedStyleName(L"Box"), L"Box 4");
+
+    sheet.TakeOut(L"Box 2");
+    const OvxStringT afterTaking = sheet.GetUnusedStyleName(L"Box");
+    sheet.Add(L"Box 2", MakeWhole());
+    sheet.Rename(L"Box 3", L"Crate");
+
+    EXPECT_EQ(afterTaking, L"Box 2");
+    EXPECT_EQ(sheet.GetUnusedStyleName(L"Box"), L"Box 3");
+}
+
 TEST(NamedStyleSheet, ClearsParentsWhenItGoes)
 {
     auto sheet = std::make_unique<NamedStyleSheet>();
