@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace
 {
@@ -38,6 +39,25 @@ std::vector<std::string> CallLog::LinesBut(std::initializer_list<std::string_vie
     std::copy_if(lines.begin(), lines.end(), std::back_inserter(found),
                  [beginnings](const std::string& line) { return !BeginsWithAny(line, beginnings); });
     return found;
+}
+
+std::vector<std::string> CallLog::CallsOf(std::initializer_list<std::string_view> beginnings) const
+{
+    std::vector<std::string> calls = LinesOf(beginnings);
+    for (std::string& call : calls)
+        call.resize(std::min(call.find('('), call.size()));
+    return calls;
+}
+
+void CallLog::FailAt(std::string beginning)
+{
+    onLine = [this, beginning = std::move(beginning)](const std::string& line)
+    {
+        if (!line.starts_with(beginning))
+            return;
+        onLine = nullptr;
+        throw InjectedFailure(line);
+    };
 }
 
 void CallLog::SetName(const void* object, std::string name)

@@ -5,9 +5,17 @@
 #include <functional>
 #include <initializer_list>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
+
+/// What a call throws that CallLog::FailAt chose.
+class InjectedFailure : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
 
 /// The calls that the recorders of one test received, one readable line each, in the order in which they
 /// came.
@@ -30,6 +38,13 @@ public:
 
     /// The lines that begin with none of `beginnings`, in order.
     [[nodiscard]] std::vector<std::string> LinesBut(std::initializer_list<std::string_view> beginnings) const;
+
+    /// As LinesOf, without the arguments: "modifier.Modify" for "modifier.Modify(targets=...)".
+    [[nodiscard]] std::vector<std::string> CallsOf(std::initializer_list<std::string_view> beginnings) const;
+
+    /// Makes the next call whose line begins with `beginning` throw an InjectedFailure, once. Takes the place
+    /// of onLine.
+    void FailAt(std::string beginning);
 
     /// Forgets the lines, not the names.
     void Clear() noexcept { lines.clear(); }

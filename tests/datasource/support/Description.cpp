@@ -31,7 +31,9 @@ std::string Describe(const CLR_COLORSPEC& color)
     std::array<char, 8> text{};
     static_cast<void>(std::snprintf(text.data(), text.size(), "#%02x%02x%02x", static_cast<unsigned>(rgb.red),
                                     static_cast<unsigned>(rgb.green), static_cast<unsigned>(rgb.blue)));
-    return text.data();
+    const std::string look = text.data();
+    return color.GetModel() == CLR_COLORSPEC::kResource ? look + "@" + Describe(color.GetResourceName())
+                                                        : look;
 }
 
 } // namespace
@@ -98,7 +100,8 @@ std::string Describe(const Style* style)
     std::set<std::string> values;
     for (const PropertyPath& path : GetOverriddenPropertyPaths(*style))
         values.insert(Describe(path) + "=" + Describe(style->GetPathProperty(path)));
-    return Describe(style->GetCategoryName()) + "{" + Join(values, ", ") + "}";
+    return Describe(style->GetCategoryName()) + "{" + Join(values, ", ") + "}" +
+           (style->GetParent() == nullptr ? "" : " with a parent");
 }
 
 std::string Describe(const InterfaceId& id)

@@ -31,11 +31,12 @@
 /// "{fill.color, type}", ordered by letters.
 [[nodiscard]] std::string Describe(const std::set<Styles::PropertyPath>& paths);
 
-/// "empty", "7", "'text'", "key", "#3366cc", or "other".
+/// "empty", "7", "'text'", "key", "#3366cc", "#3366cc@Brand" for a colour that refers to a palette entry, or
+/// "other".
 [[nodiscard]] std::string Describe(const OvxUtils::Any& value);
 
 /// The category and everything the style sets itself, through substyles, ordered by letters:
-/// "fill{color=#3366cc, type=solid}"; or "null".
+/// "fill{color=#3366cc, type=solid}", with " with a parent" behind it where it has one; or "null".
 [[nodiscard]] std::string Describe(const Styles::Style* style);
 
 /// The bytes in hexadecimal, separated by spaces.

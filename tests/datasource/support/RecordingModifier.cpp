@@ -38,9 +38,12 @@ void RecordingModifier::Modify(const std::vector<Styles::Style*>& targets,
                                const Styles::PropertyPaths& overridePaths, bool reserved, bool bound,
                                Styles::IModifyStyleOverrides* transactionOverrides)
 {
-    log.Add("modifier.Modify(targets=" + log.NamesOfStyles(targets) +
-            ", objects=" + DescribeObjects(log, objects) + ", paths=" + Describe(paths) +
-            ", changeStyle=" + Describe(changeStyle.get()) + ", overridePaths=" + Describe(overridePaths) +
-            ", reserved=" + DescribeFlag(reserved) + ", bound=" + DescribeFlag(bound) +
-            ", transactionOverrides=" + log.NameOf(transactionOverrides) + ")");
+    const RecordedChange& change = changes.emplace_back(
+        RecordedChange{log.NamesOfStyles(targets), DescribeObjects(log, objects), Describe(paths),
+                       Describe(changeStyle.get()), Describe(overridePaths), reserved, bound,
+                       log.NameOf(transactionOverrides)});
+    log.Add("modifier.Modify(targets=" + change.targets + ", objects=" + change.objects +
+            ", paths=" + change.paths + ", changeStyle=" + change.changeStyle +
+            ", overridePaths=" + change.overridePaths + ", reserved=" + DescribeFlag(reserved) +
+            ", bound=" + DescribeFlag(bound) + ", transactionOverrides=" + change.transactionOverrides + ")");
 }

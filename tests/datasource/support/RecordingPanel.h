@@ -71,6 +71,8 @@ public:
     using BaseStylePropertiesDatasource::GetObjectFromStyle;
     using BaseStylePropertiesDatasource::GetStyleApplicatorID;
     using BaseStylePropertiesDatasource::ImportForceAmbiguous;
+    using BaseStylePropertiesDatasource::ModifyDefaultStyles;
+    using BaseStylePropertiesDatasource::ModifySubstyles;
     using BaseStylePropertiesDatasource::OnPresetsListUpdated;
     using BaseStylePropertiesDatasource::Private_HasParent;
     using BaseStylePropertiesDatasource::SetTargetStyle;
