@@ -222,4 +222,51 @@ TEST_F(ReplacedTexts, AreFetchedForNoPresetInAPanelWithPresetsOnly)
     EXPECT_THAT(log.LinesOf({"text"}), ElementsAre("text f5cefe53-8452-41c0-888b-b882ff5a4ba0"));
 }
 
+/// Menu entries from patterns that no catalogue has.
+class ReplacedMenuTexts : public ReplacedTexts
+{
+protected:
+    ReplacedMenuTexts() { Target(panel, {&box}); }
+
+    OvxStringT Revert() const { return panel.Read<OvxStringT>(L"RevertToMenuString"); }
+};
+
+TEST_F(ReplacedMenuTexts, HaveAKeyForEachEntry)
+{
+    EXPECT_EQ(panel.Read<OvxStringT>(L"RevertToMenuString"), L"f6dd6f91-646d-4758-ba17-db358538fa3e");
+    EXPECT_EQ(panel.Read<OvxStringT>(L"ApplyToMenuString"), L"6d36d862-aac1-4e48-a9eb-2ac57f1862b1");
+    EXPECT_EQ(panel.Read<OvxStringT>(L"EditStyleMenuString"), L"a17f1a53-850c-459c-81df-297c75d6e567");
+}
+
+TEST_F(ReplacedMenuTexts, KeepTheAmpersandsOfThePattern)
+{
+    replacements.texts[L"f6dd6f91-646d-4758-ba17-db358538fa3e"] = L"&Revert to %1";
+    sheet.entries.front().name = L"R&D";
+
+    EXPECT_EQ(Revert(), L"&Revert to <R&&D>");
+}
+
+TEST_F(ReplacedMenuTexts, PutTheNameInEveryPlaceOfThePattern)
+{
+    replacements.texts[L"f6dd6f91-646d-4758-ba17-db358538fa3e"] = L"%1 (100%%) %1";
+
+    EXPECT_EQ(Revert(), L"<Base> (100%) <Base>");
+}
+
+TEST_F(ReplacedMenuTexts, AreEmptyForAnEmptyPattern)
+{
+    replacements.texts[L"f6dd6f91-646d-4758-ba17-db358538fa3e"] = L"";
+
+    EXPECT_EQ(Revert(), L"");
+}
+
+TEST_F(ReplacedMenuTexts, DoubleTheAmpersandsOfTheTextForAParentWithoutAName)
+{
+    replacements.texts[L"f6dd6f91-646d-4758-ba17-db358538fa3e"] = L"%1";
+    replacements.texts[L"1afd0b33-8a69-4ebe-bfcd-a0c00531518a"] = L"Base & Co";
+    sheet.entries.clear();
+
+    EXPECT_EQ(Revert(), L"Base && Co");
+}
+
 } // namespace
