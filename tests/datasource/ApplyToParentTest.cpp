@@ -142,6 +142,14 @@ TEST_F(ApplyToParent, ActsWhereTheTargetsDisagree)
     EXPECT_EQ(Apply().size(), 1U);
 }
 
+TEST_F(ApplyToParent, GoesByTheFirstTargetItselfWhateverIsShownForIt)
+{
+    panel.givesTargetStyle = [](std::size_t) { return nullptr; };
+
+    EXPECT_EQ(Apply().size(), 1U);
+    EXPECT_THAT(log.LinesOf({"panel.GetTargetStyle"}), IsEmpty());
+}
+
 TEST_F(ApplyToParent, DoesNothingWithoutTargets)
 {
     TargetAs({}, L"style");

@@ -119,6 +119,15 @@ TEST_F(BreakColorResource, DoesNotAskForTheState)
     EXPECT_THAT(log.LinesOf({"panel.GetActivePropertyState"}), IsEmpty());
 }
 
+TEST_F(BreakColorResource, GoesByTheTargetItselfWhateverIsShownForIt)
+{
+    panel.givesTargetStyle = [](std::size_t) { return nullptr; };
+
+    EXPECT_EQ(IsEnabled(), 1);
+    EXPECT_THAT(Break(), ElementsAre("panel.ModifyStyles(paths=[color], fill{color=#3366cc}, "
+                                     "overridePaths=null)"));
+}
+
 // How many targets
 
 TEST_F(BreakColorResource, IsDisabledAndDoesNothingWithTwoTargets)

@@ -131,6 +131,22 @@ TEST_F(Notification, DoesNotComeFromTyingDataSourcesTogether)
     EXPECT_THAT(log.LinesOf({"notify"}), IsEmpty());
 }
 
+TEST_F(Notification, DoesNotComeFromCommands)
+{
+    Styles::Style& base = styles.WithColor("base", 1);
+    Target(panel, {&styles.WithColor("box", 2, &base)});
+    panel.SetActiveIdentifier(L"style");
+    log.Clear();
+
+    for (const wchar_t* command :
+         {L"OnRevertToParent", L"OnApplyToParent", L"OnCreateStyleFrom", L"OnEditStyle"})
+        panel.Invoke(command);
+
+    EXPECT_THAT(log.LinesOf({"panel.ClearProperties", "source.ApplyToParent", "source.CreateStyle"}),
+                SizeIs(3));
+    EXPECT_THAT(log.LinesOf({"notify"}), IsEmpty());
+}
+
 TEST_F(Notification, MayBeAnsweredByNewTargetsFromInside)
 {
     Styles::Style& second = styles.WithFill("second");

@@ -1,4 +1,4 @@
-// Three pieces of the host are replaced here by pieces of this program: what the reference host never answers
+// Four pieces of the host are replaced here by pieces of this program: what the reference host never answers
 // can then be answered, and what it answers without a trace leaves one. The library leaves these names to its
 // host; the dynamic linker finds them here first.
 
@@ -44,6 +44,12 @@ OvxStringT Framework::Resources::GetString(const OvxStringT& key)
         replacements.log->Add("text " + Describe(key));
     const auto found = replacements.texts.find(key);
     return found == replacements.texts.end() ? key : found->second;
+}
+
+void Styles::Style::SetProperties(const PropertyPaths& paths, const Style* from)
+{
+    if (replacements.log != nullptr)
+        replacements.log->Add("SetProperties(" + Describe(paths) + ", " + Describe(from) + ")");
 }
 
 namespace
@@ -147,6 +153,44 @@ TEST_F(ReplacedHost, WouldNoticeTheFrameworksOwnHook)
     plain.FinishConstruction();
 
     EXPECT_EQ(replacements.basePostConstructions, 1);
+}
+
+/// Writes to the default styles of a host that takes no null where it copies values from.
+class ReplacedCopying : public ReplacedHost
+{
+protected:
+    ReplacedCopying()
+    {
+        source.defaultStyles = {&defaults};
+        Target(panel, {&defaults}, /*isDefault=*/true);
+    }
+
+    std::vector<std::string> Copied() const { return log.LinesOf({"SetProperties"}); }
+
+    Style& defaults = styles.WithFill("defaults");
+};
+
+TEST_F(ReplacedCopying, TakesWhatAGroupGathers)
+{
+    panel.StartGroupModify();
+    panel.WriteTarget(Key(L"color"), OvxUtils::Any(3), nullptr, nullptr);
+
+    EXPECT_THAT(Copied(), ElementsAre("SetProperties([color], fill{color=3})"));
+}
+
+TEST_F(ReplacedCopying, TakesNothingFromANullChangeInAGroup)
+{
+    panel.StartGroupModify();
+    panel.ModifyStyles({Path({L"color"})}, nullptr, nullptr);
+
+    EXPECT_THAT(Copied(), IsEmpty());
+}
+
+TEST_F(ReplacedCopying, TakesNothingFromANullChangeOfDefaultStyles)
+{
+    panel.ModifyStyles({Path({L"color"})}, nullptr, nullptr);
+
+    EXPECT_THAT(Copied(), IsEmpty());
 }
 
 /// Titles from patterns that no catalogue has.

@@ -155,6 +155,17 @@ TEST_F(RevertToParent, TakesAnIdentifierThatOnlyContainsStyleAsPaths)
     EXPECT_THAT(Revert(), ElementsAre("panel.ClearProperties([style, color])"));
 }
 
+TEST_F(RevertToParent, GoesByTheFirstTargetItselfWhateverIsShownForIt)
+{
+    TargetAs({&box}, L"style");
+    panel.givesTargetStyle = [](std::size_t) { return nullptr; };
+
+    Revert();
+
+    EXPECT_THAT(log.LinesOf({"panel.GetStyleCategoryProperties", "panel.GetTargetStyle"}),
+                ElementsAre("panel.GetStyleCategoryProperties(box.fill)"));
+}
+
 // The enable, by state
 
 struct StateCase

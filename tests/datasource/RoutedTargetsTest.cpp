@@ -228,4 +228,27 @@ TEST_F(RoutedTargets, LeaveTheTargetsOfThePanelAsTheyWere)
     EXPECT_EQ(log.NamesOfStyles(panel.GetTargetStyles()), "[circle.fill, box]");
 }
 
+/// By how many targets there are.
+class RoutedTargetCount : public WritingTest, public testing::WithParamInterface<std::size_t>
+{
+};
+
+TEST_P(RoutedTargetCount, MakesNoDifferenceToTheNumberOfCalls)
+{
+    std::vector<Style*> targets(GetParam());
+    for (Style*& target : targets)
+        target = &styles.WithFill("box");
+    Target(panel, targets);
+    panel.ListenTo(panel.GetNames());
+    log.Clear();
+
+    panel.WriteTarget(Key(L"color"), OvxUtils::Any(3), nullptr, nullptr);
+
+    EXPECT_EQ(modifier.Last().targets, log.NamesOfStyles(targets));
+    EXPECT_THAT(log.CallsOf({"modifier.", "notify"}),
+                testing::ElementsAre("modifier.Begin", "modifier.Modify", "modifier.End"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Numbers, RoutedTargetCount, testing::Values(1, 2, 3, 500, 501, 10'000));
+
 } // namespace

@@ -75,6 +75,18 @@ TEST_F(SiblingForwarding, HandsOnNullForAMissingChange)
                             "second.ModifyStyles(paths=[color], null, overridePaths=null)"));
 }
 
+TEST_F(SiblingForwarding, HandsOnACopyWithTheParentOfTheChange)
+{
+    auto change = Change(3);
+    change->SetParent(&FillOf(own));
+
+    panel.ModifyStyles(Paths({L"color"}), std::move(change), nullptr);
+
+    EXPECT_THAT(log.LinesOf({"first.ModifyStyles"}),
+                ElementsAre("first.ModifyStyles(paths=[color], fill{color=3} with a parent, "
+                            "overridePaths=null)"));
+}
+
 TEST_F(SiblingForwarding, LetsTheSiblingWrapForItsOwnTargets)
 {
     Target(first, {&a});

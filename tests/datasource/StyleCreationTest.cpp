@@ -107,6 +107,13 @@ TEST_F(CreateStyleFrom, LooksAtTheFirstTargetAlone)
     EXPECT_EQ(IsEnabledFor({&FillOf(base), &box}), 0);
 }
 
+TEST_F(CreateStyleFrom, IsEnabledByTheFirstTargetItselfWhateverIsShownForIt)
+{
+    panel.givesTargetStyle = [](std::size_t) { return nullptr; };
+
+    EXPECT_EQ(IsEnabledFor({&box}), 1);
+}
+
 // Edit style
 
 class EditStyle : public WritingTest
