@@ -3,6 +3,7 @@
 #include "reference_host/document/CascadeStyles.h"
 #include "reference_host/document/DrawingObject.h"
 #include "reference_host/document/StyleRecord.h"
+#include "reference_host/document/TextWalker.h"
 #include "reference_host/document/Warnings.h"
 #include "reference_host/document/XmlNames.h"
 
@@ -11,7 +12,6 @@
 #include <pugixml.hpp>
 
 #include <cstddef>
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -27,7 +27,7 @@ void AddTextStyle(StyleLevels& levels, const StyleCatalogue& catalogue, StyleFam
                   std::string_view name, Warnings& warnings);
 
 /// Reads the text of one shape after another into text units.
-class TextReader
+class TextReader final : private ITextVisitor
 {
 public:
     /// Borrows everything.
@@ -39,38 +39,33 @@ public:
     void Read(pugi::xml_node shape, DrawingObject& object, Styles::Style* parent, const StyleLevels& outer);
 
 private:
-    /// Where blanks may still turn out to be text: between two pieces of text, but not at the end of a
-    /// paragraph.
-    struct PendingBlank
+    /// A paragraph, or a span in it, with the styles that apply to what is directly in it.
+    struct Holder
     {
-        pugi::xml_node span;
-        std::size_t cascade;
+        pugi::xml_node element;
+        StyleLevels levels;
     };
 
-    void ReadBlocks(pugi::xml_node container);
-    void ReadParagraph(pugi::xml_node paragraph);
-    void ReadInline(pugi::xml_node element, pugi::xml_node span, const StyleLevels& levels);
-    void ReadInlineElement(pugi::xml_node element, pugi::xml_node span, const StyleLevels& levels);
-    void ReadSpan(pugi::xml_node element, const StyleLevels& levels);
-    void TakeText(std::string_view text, pugi::xml_node span, const StyleLevels& levels);
-    void TakeContent(pugi::xml_node span, std::size_t cascade);
+    void BeginParagraph(pugi::xml_node paragraph) override;
+    void BeginSpan(pugi::xml_node span) override;
+    void EndSpan() override;
+    void BeginRun(pugi::xml_node holder) override;
+    void Content(pugi::xml_node node) override;
     [[nodiscard]] std::size_t CascadeOf(const StyleLevels& levels);
 
     const StyleCatalogue& catalogue;
     CascadeStyles& cascades;
     XmlNames& names;
     Warnings& warnings;
+    TextWalker walker;
 
     // Of the shape being read
     DrawingObject* target = nullptr;
     Styles::Style* namedStyle = nullptr;
     const StyleLevels* shapeLevels = nullptr;
 
-    // Of the paragraph being read
-    std::optional<pugi::xml_node>
-        lastSpan; ///< The innermost span of the last run; the paragraph without any.
-    std::optional<PendingBlank> pendingBlank;
-    bool endsWithBlank = true; ///< Blanks that follow a blank, or begin a paragraph, are no text.
+    std::vector<Holder> holders;   ///< Of the paragraph being read, those that have ended included.
+    std::vector<std::size_t> open; ///< Places in `holders` of those that have not ended.
 };
 
 } // namespace ReferenceHost
