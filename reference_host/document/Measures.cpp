@@ -126,4 +126,31 @@ std::string FormatLength(int hundredthMm)
     return text + "mm";
 }
 
+std::string FormatLengthLike(int hundredthMm, std::string_view example)
+{
+    constexpr int kMostDecimals = 5;
+    const std::optional<LeadingNumber> leading = ParseNumber(example);
+    const auto* const unit = leading ? std::ranges::find(kUnits, leading->rest, &Unit::name) : kUnits.end();
+    for (int decimals = 0; unit != kUnits.end() && decimals <= kMostDecimals; ++decimals)
+    {
+        std::array<char, 64> digits{};
+        const auto [end, error] =
+            std::to_chars(digits.data(), digits.data() + digits.size(), hundredthMm / unit->hundredthMm,
+                          std::chars_format::fixed, decimals);
+        const std::string text = std::string(digits.data(), end).append(unit->name);
+        if (error == std::errc() && ParseLength(text) == hundredthMm)
+            return text;
+    }
+    return FormatLength(hundredthMm);
+}
+
+std::string FormatTenths(int tenths)
+{
+    const auto magnitude = static_cast<unsigned>(std::abs(static_cast<long long>(tenths)));
+    std::string text = (tenths < 0 ? "-" : "") + std::to_string(magnitude / 10);
+    if (magnitude % 10 != 0)
+        text.append(".").append(std::to_string(magnitude % 10));
+    return text;
+}
+
 } // namespace ReferenceHost

@@ -28,4 +28,12 @@ namespace ReferenceHost
 /// "-0.3mm".
 [[nodiscard]] std::string FormatLength(int hundredthMm);
 
+/// Hundredths of a millimetre in the unit of `example`, a length such as "0.5cm", with as few decimals as
+/// ParseLength() needs to read them back; as FormatLength() when `example` has no unit, or when too many
+/// decimals would be needed.
+[[nodiscard]] std::string FormatLengthLike(int hundredthMm, std::string_view example);
+
+/// Tenths of something as a number: "14", "10.5".
+[[nodiscard]] std::string FormatTenths(int tenths);
+
 } // namespace ReferenceHost

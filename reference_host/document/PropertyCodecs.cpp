@@ -158,9 +158,28 @@ constexpr std::array<Codec, 13> kCodecs{
      {PropertyCodec::FontName, "font-name", ParseFontName},
      {PropertyCodec::FontFamily, "font-family", ParseFontFamilyValue}}};
 
-/// The piece of a shorthand that stands for `side`; the text itself when it is no shorthand, and an empty
-/// text when there are no one to four values.
-std::string_view PickSide(std::string_view text, ShorthandSide side)
+} // namespace
+
+std::optional<PropertyCodec> FindPropertyCodec(std::string_view name)
+{
+    const auto* const codec = std::ranges::find(kCodecs, name, &Codec::name);
+    return codec == kCodecs.end() ? std::nullopt : std::optional(codec->codec);
+}
+
+std::string DefinitionKey(std::string_view kind, std::string_view name)
+{
+    // No name of XML holds a blank.
+    return std::string(kind).append(" ").append(name);
+}
+
+std::optional<ParsedValue> ParseProperty(const PropertyMapping& mapping, std::string_view text,
+                                         const DeclaredNames& names)
+{
+    const auto* const codec = std::ranges::find(kCodecs, mapping.codec, &Codec::codec);
+    return codec->parse({mapping, PickShorthandSide(TrimXmlBlanks(text), mapping.side), names});
+}
+
+std::string_view PickShorthandSide(std::string_view text, ShorthandSide side)
 {
     if (side == ShorthandSide::None)
         return text;
@@ -180,27 +199,6 @@ std::string_view PickSide(std::string_view text, ShorthandSide side)
     if (count == 0)
         return {};
     return values[kPlaces[count - 1][static_cast<std::size_t>(side) - 1]];
-}
-
-} // namespace
-
-std::optional<PropertyCodec> FindPropertyCodec(std::string_view name)
-{
-    const auto* const codec = std::ranges::find(kCodecs, name, &Codec::name);
-    return codec == kCodecs.end() ? std::nullopt : std::optional(codec->codec);
-}
-
-std::string DefinitionKey(std::string_view kind, std::string_view name)
-{
-    // No name of XML holds a blank.
-    return std::string(kind).append(" ").append(name);
-}
-
-std::optional<ParsedValue> ParseProperty(const PropertyMapping& mapping, std::string_view text,
-                                         const DeclaredNames& names)
-{
-    const auto* const codec = std::ranges::find(kCodecs, mapping.codec, &Codec::codec);
-    return codec->parse({mapping, PickSide(TrimXmlBlanks(text), mapping.side), names});
 }
 
 OvxStringT ParseFontFamily(std::string_view text)

@@ -40,6 +40,10 @@ struct ParsedValue
 [[nodiscard]] std::optional<ParsedValue> ParseProperty(const PropertyMapping& mapping, std::string_view text,
                                                        const DeclaredNames& names);
 
+/// The piece of a shorthand that stands for `side`; the text itself when it is no shorthand, and an empty
+/// text when there are no one to four values.
+[[nodiscard]] std::string_view PickShorthandSide(std::string_view text, ShorthandSide side);
+
 /// A list of font families without its quotes: "'DejaVu Sans', serif" is "DejaVu Sans, serif".
 [[nodiscard]] OvxStringT ParseFontFamily(std::string_view text);
 

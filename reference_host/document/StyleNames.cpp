@@ -3,6 +3,8 @@
 #include "host/utils/Utf8.h"
 #include "reference_host/document/XmlText.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <string>
@@ -60,7 +62,75 @@ std::size_t MeasureEncoded(std::string_view text, std::uint32_t& codePoint)
     return error == std::errc() && stop == text.data() + end ? end + 1 : 0;
 }
 
+/// The first and last of the characters beyond ASCII that a name may hold everywhere.
+struct NameRange
+{
+    std::uint32_t first;
+    std::uint32_t last;
+};
+
+constexpr std::array<NameRange, 12> kNameRanges{{{0xC0, 0xD6},
+                                                 {0xD8, 0xF6},
+                                                 {0xF8, 0x2FF},
+                                                 {0x370, 0x37D},
+                                                 {0x37F, 0x1FFF},
+                                                 {0x200C, 0x200D},
+                                                 {0x2070, 0x218F},
+                                                 {0x2C00, 0x2FEF},
+                                                 {0x3001, 0xD7FF},
+                                                 {0xF900, 0xFDCF},
+                                                 {0xFDF0, 0xFFFD},
+                                                 {0x10000, 0xEFFFF}}};
+
+/// The code point of the sequence at the front of `text`, whose length is `length`.
+std::uint32_t CodePointOf(std::string_view text, std::size_t length)
+{
+    const auto byte = [&](std::size_t place)
+    { return static_cast<std::uint32_t>(static_cast<unsigned char>(text[place])); };
+    if (length == 1)
+        return byte(0);
+    std::uint32_t codePoint = byte(0) & (0xFFU >> (length + 1));
+    for (std::size_t place = 1; place < length; ++place)
+        codePoint = (codePoint << 6U) | (byte(place) & 0x3FU);
+    return codePoint;
+}
+
+/// Tells whether a character is written as its code: what no name of XML holds, and the underscore.
+bool NeedsEncoding(std::uint32_t codePoint, bool isFirst)
+{
+    if (!IsEncodable(codePoint, isFirst))
+        return false;
+    const auto holds = [&](const NameRange& range)
+    { return range.first <= codePoint && codePoint <= range.last; };
+    return codePoint < 0x80 || std::ranges::none_of(kNameRanges, holds);
+}
+
+std::string HexOf(std::uint32_t codePoint)
+{
+    std::array<char, 8> digits{};
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), codePoint, 16);
+    return {digits.data(), end};
+}
+
 } // namespace
+
+std::string EncodeStyleName(const OvxStringT& name)
+{
+    const std::string plain = OvxUtils::ToUtf8(name);
+    std::string encoded;
+    for (std::size_t place = 0; place < plain.size();)
+    {
+        const std::string_view rest = std::string_view(plain).substr(place);
+        const std::size_t length = std::max<std::size_t>(MeasureMultibyte(rest), 1);
+        const std::uint32_t codePoint = CodePointOf(rest, length);
+        if (NeedsEncoding(codePoint, place == 0))
+            encoded.append("_").append(HexOf(codePoint)).append("_");
+        else
+            encoded.append(rest.substr(0, length));
+        place += length;
+    }
+    return encoded;
+}
 
 OvxStringT DecodeStyleName(std::string_view encoded)
 {

@@ -2,6 +2,7 @@
 
 #include "host/utils/OvxStringT.h"
 
+#include <string>
 #include <string_view>
 
 namespace ReferenceHost
@@ -14,5 +15,8 @@ namespace ReferenceHost
 /// anything else (a letter, a digit inside the name, a control character) it is part of the name as it is:
 /// "box_a_1" stays.
 [[nodiscard]] OvxStringT DecodeStyleName(std::string_view encoded);
+
+/// Makes a name fit for XML, so that DecodeStyleName() gives it back: "Mid One" is "Mid_20_One".
+[[nodiscard]] std::string EncodeStyleName(const OvxStringT& name);
 
 } // namespace ReferenceHost
