@@ -4,6 +4,7 @@
 #include "reference_host/document/Drawing.h"
 #include "reference_host/document/DrawingFile.h"
 #include "reference_host/document/NamedStyles.h"
+#include "reference_host/document/PropertyCodecs.h"
 #include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
 #include "reference_host/document/TextSettling.h"
@@ -13,6 +14,7 @@
 #include <deque>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -37,6 +39,9 @@ struct DrawingData
     PropertyMappings table;
     std::vector<PaletteEntry> palette;
     StyleCatalogue catalogue;
+    DeclaredNames namedDeclared;                 ///< What the named styles refer to.
+    DeclaredNames declared;                      ///< What the automatic styles refer to.
+    std::optional<StyleRecord> defaultRecord;    ///< The default style as it stands in the file.
     std::unique_ptr<Styles::Style> defaultStyle; ///< Never null.
     NamedStyleSheet sheet;
     StyleAppearances appearances;

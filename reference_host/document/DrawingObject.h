@@ -58,6 +58,12 @@ public:
     /// Tells whether the file gives the object a colour by this palette entry, apart from its named style.
     [[nodiscard]] bool IsReadWithPaletteColour(const OvxStringT& entry) const;
 
+    /// The same where it was asked for already; null where it was not, so that it is as the file says.
+    [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }
+
+    /// Where the start tag of the element stands in the XML text of the pages.
+    [[nodiscard]] std::size_t GetPlace() const noexcept { return place; }
+
     /// The paragraphs of the text, in order, also those in lists. Empty for a shape without text, which
     /// stands for itself, and for a group. The units keep their addresses.
     [[nodiscard]] std::vector<TextUnit>& GetParagraphs() noexcept { return paragraphs; }
@@ -75,6 +81,7 @@ private:
     OvxStringT name;
     OvxStringViewT kind;
     bool isGroup = false;
+    std::size_t place = 0;
     std::vector<DrawingObject*> members; ///< Owned by the drawing.
     std::vector<TextUnit> paragraphs;
     std::vector<TextUnit> runs;

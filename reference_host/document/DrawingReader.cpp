@@ -51,6 +51,8 @@ void DrawingReader::Read()
 
     StyleReader reader(data.table, colours, data.catalogue, warnings);
     ReadStyles(reader, isFlat ? content : packageStyles, content);
+    if (reader.GetDefault() != nullptr)
+        data.defaultRecord = *reader.GetDefault();
     FillDefaultStyle(*data.defaultStyle, reader.GetDefault(), data.table, warnings);
     NamedStyleBuilder(data.table, *data.defaultStyle, data.sheet, data.appearances, warnings)
         .Build(data.catalogue);
@@ -60,6 +62,7 @@ void DrawingReader::Read()
 DrawingReader::Part DrawingReader::Parse(std::string_view text, const char* entry) const
 {
     Part part;
+    part.text = text;
     part.label = entry == nullptr ? data.file.label : data.file.label + ", " + entry;
     if (entry == nullptr || !text.empty())
         part.tree = ParseXml(text, part.label);
@@ -133,7 +136,7 @@ void DrawingReader::ReadStyles(StyleReader& reader, const Part& styles, const Pa
         XmlNames names;
         const XmlNames::Scope scope(names, part.GetRoot());
         ForEachChild(part.GetRoot(), names, container,
-                     [&](pugi::xml_node element) { reader.ReadStyles(element, names, origin); });
+                     [&](pugi::xml_node element) { reader.ReadStyles(element, part.text, names, origin); });
     };
     const auto readDeclarations = [&reader](const Part& part)
     {
@@ -143,10 +146,12 @@ void DrawingReader::ReadStyles(StyleReader& reader, const Part& styles, const Pa
     };
     readDeclarations(styles);
     readContainers(styles, kStyles, StyleOrigin::Named);
+    data.namedDeclared = reader.GetDeclared();
     // A package declares fonts for each of its texts; those of the content stand for what shapes use. The
     // automatic styles beside the named ones belong to master pages.
     if (&styles != &content)
         readDeclarations(content);
+    data.declared = reader.GetDeclared();
     readContainers(content, kAutomaticStyles, StyleOrigin::Automatic);
 }
 
@@ -155,7 +160,7 @@ void DrawingReader::ReadShapes(const Part& content)
     XmlNames names;
     const pugi::xml_node root = content.GetRoot();
     const XmlNames::Scope scope(names, root);
-    ShapeReader reader(data.catalogue, data.cascades, names, warnings);
+    ShapeReader reader(data.catalogue, data.cascades, content.text, names, warnings);
     ForEachChild(root, names, kBody,
                  [&](pugi::xml_node body)
                  {

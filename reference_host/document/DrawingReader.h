@@ -30,6 +30,7 @@ private:
     struct Part
     {
         std::string label;
+        std::string_view text; ///< Borrowed from the drawing's file.
         std::unique_ptr<pugi::xml_document> tree;
 
         [[nodiscard]] pugi::xml_node GetRoot() const

@@ -91,6 +91,7 @@ void NamedStyleBuilder::AddToSheet(StyleRecord& record)
     const OvxStringT name = PickName(record);
     appearances[name] = {OvxUtils::FromUtf8(record.displayName), record.isHidden};
     record.style = sheet.Add(name, MakeNamedStyle(category, table, defaults));
+    record.sheetName = name;
 }
 
 OvxStringT NamedStyleBuilder::PickName(const StyleRecord& record)

@@ -29,7 +29,8 @@ inline constexpr std::string_view kNamespace = "urn:styleproperties:1.0";
 /// On style:style: the category of a named style that is not a whole style ("fill").
 inline constexpr std::string_view kCategory = "category";
 
-/// On style:style, beside kCategory: the encoded name of its parent of the same category.
+/// On style:style, beside kCategory: the encoded name of its parent of the same category. Empty on the
+/// automatic style of a shape: the shape has no parent, where it would otherwise take "standard".
 inline constexpr std::string_view kParent = "parent-style-name";
 
 /// Behind the local name of a colour attribute, the attribute that names the palette entry of the colour:

@@ -1,6 +1,8 @@
 #include "reference_host/document/ShapeReader.h"
 
 #include "reference_host/document/OdfNamespaces.h"
+#include "reference_host/document/StyleParents.h"
+#include "reference_host/document/XmlSource.h"
 
 #include "host/utils/Utf8.h"
 
@@ -44,16 +46,15 @@ constexpr XmlName kPage{Odf::kDraw, "page"};
 
 } // namespace
 
-ShapeReader::ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, XmlNames& xmlNames,
-                         Warnings& reports)
+ShapeReader::ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, std::string_view xml,
+                         XmlNames& xmlNames, Warnings& reports)
     : catalogue(styles),
       cascades(cascadeStyles),
       names(xmlNames),
       warnings(reports),
-      text(styles, cascadeStyles, xmlNames, reports)
+      text(styles, cascadeStyles, xmlNames, reports),
+      source(xml)
 {
-    const StyleRecord* const record = catalogue.FindNamed(StyleFamily::Graphic, "standard");
-    standard = record != nullptr && record->ownCategory.empty() ? record->style : nullptr;
 }
 
 void ShapeReader::Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages,
@@ -110,6 +111,7 @@ DrawingObject& ShapeReader::AddObject(pugi::xml_node element, const Place& place
 {
     DrawingObject& object = allObjects->emplace_back(*place.page, place.group, place.members->size() + 1);
     place.members->push_back(&object);
+    object.place = PlaceOfElement(element, source);
     object.name = OvxUtils::FromUtf8(names.Attribute(element, {Odf::kDraw, "name"}));
     return object;
 }
@@ -123,37 +125,28 @@ void ShapeReader::ReadStyle(pugi::xml_node element, DrawingObject& object)
         warnings.Add("style \"" + ReadableName(styleName) +
                      R"(": shapes refer to it, but it does not exist; they take "standard")");
     }
-    Styles::Style* parent = standard;
+    const ShapeParent parent = FindShapeParent(catalogue, record);
+    if (parent.isMissing)
+        ReportMissingParent(*record);
     StyleLevels levels;
     AddTextStyle(levels, catalogue, StyleFamily::Paragraph,
                  names.Attribute(element, {Odf::kDraw, "text-style-name"}), warnings);
     const std::size_t textLevels = levels.size();
     if (record != nullptr && record->origin == StyleOrigin::Automatic)
-    {
         levels.push_back(record);
-        parent = FindParent(*record);
-    }
-    else if (record != nullptr && record->ownCategory.empty())
-        parent = record->style;
 
-    text.Read(element, object, parent, levels);
+    text.Read(element, object, parent.style, levels);
     // Where there is text, its units carry what the text style sets; else the shape stands for itself.
     if (!object.paragraphs.empty())
         levels.erase(levels.begin(), levels.begin() + static_cast<std::ptrdiff_t>(textLevels));
     object.styles = &cascades;
-    object.cascade = cascades.Intern(OwnValues::Scope::All, parent, levels);
+    object.cascade = cascades.Intern(OwnValues::Scope::All, parent.style, levels);
 }
 
-Styles::Style* ShapeReader::FindParent(const StyleRecord& automatic)
+void ShapeReader::ReportMissingParent(const StyleRecord& automatic)
 {
-    if (automatic.parentName.empty())
-        return standard;
-    const StyleRecord* const named = catalogue.FindNamed(StyleFamily::Graphic, automatic.parentName);
-    if (named != nullptr && named->ownCategory.empty())
-        return named->style;
     warnings.AddAbout(automatic, "its parent \"" + ReadableName(automatic.parentName) +
                                      R"(" does not exist; its shapes take "standard")");
-    return standard;
 }
 
 } // namespace ReferenceHost

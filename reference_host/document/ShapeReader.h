@@ -13,6 +13,7 @@
 #include <pugixml.hpp>
 
 #include <deque>
+#include <string_view>
 #include <vector>
 
 namespace ReferenceHost
@@ -22,8 +23,9 @@ namespace ReferenceHost
 class ShapeReader
 {
 public:
-    /// Borrows everything. The named styles are complete.
-    ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, XmlNames& xmlNames, Warnings& reports);
+    /// Borrows everything. The named styles are complete; `xml` is the text that the tree was made of.
+    ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, std::string_view xml,
+                XmlNames& xmlNames, Warnings& reports);
 
     /// Reads all pages in `drawing`, the element office:drawing, whose scope is in force.
     void Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages, std::deque<DrawingObject>& objects);
@@ -41,15 +43,15 @@ private:
     void ReadMember(pugi::xml_node element, const Place& place);
     DrawingObject& AddObject(pugi::xml_node element, const Place& place);
     void ReadStyle(pugi::xml_node element, DrawingObject& object);
-    [[nodiscard]] Styles::Style* FindParent(const StyleRecord& automatic);
+    void ReportMissingParent(const StyleRecord& automatic);
 
     StyleCatalogue& catalogue;
     CascadeStyles& cascades;
     XmlNames& names;
     Warnings& warnings;
     TextReader text;
+    std::string_view source;
     std::deque<DrawingObject>* allObjects = nullptr;
-    Styles::Style* standard; ///< What shapes take that have no other style; null when the drawing has none.
 };
 
 } // namespace ReferenceHost

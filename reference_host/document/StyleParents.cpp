@@ -78,6 +78,25 @@ private:
 
 } // namespace
 
+ShapeParent FindShapeParent(StyleCatalogue& catalogue, const StyleRecord* record)
+{
+    const auto wholeStyle = [&](std::string_view name) -> Styles::Style*
+    {
+        const StyleRecord* const named = catalogue.FindNamed(StyleFamily::Graphic, name);
+        return named != nullptr && named->ownCategory.empty() ? named->style : nullptr;
+    };
+    if (record != nullptr && record->origin == StyleOrigin::Named && record->ownCategory.empty())
+        return {record->style, false};
+    if (record == nullptr || record->origin == StyleOrigin::Named)
+        return {wholeStyle("standard"), false};
+    if (record->hasNoParent)
+        return {};
+    if (record->parentName.empty())
+        return {wholeStyle("standard"), false};
+    Styles::Style* const parent = wholeStyle(record->parentName);
+    return parent != nullptr ? ShapeParent{parent, false} : ShapeParent{wholeStyle("standard"), true};
+}
+
 std::vector<StyleRecord*> LinkParents(StyleCatalogue& catalogue, Warnings& warnings)
 {
     for (StyleRecord& record : catalogue.GetRecords())

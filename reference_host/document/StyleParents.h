@@ -19,4 +19,15 @@ namespace ReferenceHost
 /// file.
 std::vector<StyleRecord*> LinkParents(StyleCatalogue& catalogue, Warnings& warnings);
 
+/// The named style that a shape inherits from.
+struct ShapeParent
+{
+    Styles::Style* style = nullptr; ///< Null for a shape without a parent.
+    bool isMissing = false;         ///< The parent that the file names does not exist.
+};
+
+/// The parent of a shape with the graphic style `record`, which may be null: what an automatic style names, a
+/// named whole style itself, and otherwise "standard" where the drawing has it.
+[[nodiscard]] ShapeParent FindShapeParent(StyleCatalogue& catalogue, const StyleRecord* record);
+
 } // namespace ReferenceHost

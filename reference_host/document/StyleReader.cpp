@@ -2,6 +2,7 @@
 
 #include "reference_host/document/OdfNamespaces.h"
 #include "reference_host/document/StyleNames.h"
+#include "reference_host/document/XmlSource.h"
 #include "reference_host/document/XmlText.h"
 
 #include "host/style_model/CategoryNames.h"
@@ -100,29 +101,32 @@ void StyleReader::ReadDeclaration(pugi::xml_node element, XmlNames& names)
     declared.definitions[DefinitionKey(definition->kind, encoded)] = OvxUtils::FromUtf8(displayName);
 }
 
-void StyleReader::ReadStyles(pugi::xml_node container, XmlNames& names, StyleOrigin origin)
+void StyleReader::ReadStyles(pugi::xml_node container, std::string_view text, XmlNames& names,
+                             StyleOrigin origin)
 {
     for (const pugi::xml_node element : container.children())
     {
         const XmlNames::Scope scope(names, element);
         const XmlName name = names.Of(element);
         if (name == XmlName{Odf::kStyle, "style"})
-            ReadStyle(element, names, origin);
+            ReadStyle(element, text, names, origin);
         else if (name == XmlName{Odf::kStyle, "default-style"})
-            ReadDefault(element, names);
+            ReadDefault(element, text, names);
     }
 }
 
-void StyleReader::ReadDefault(pugi::xml_node element, XmlNames& names)
+void StyleReader::ReadDefault(pugi::xml_node element, std::string_view text, XmlNames& names)
 {
     if (defaults || names.Attribute(element, {Odf::kStyle, "family"}) != "graphic")
         return;
     StyleRecord record;
+    record.place = PlaceOfElement(element, text);
     ReadProperties(element, names, record);
     defaults = std::move(record);
 }
 
-void StyleReader::ReadStyle(pugi::xml_node element, XmlNames& names, StyleOrigin origin)
+void StyleReader::ReadStyle(pugi::xml_node element, std::string_view text, XmlNames& names,
+                            StyleOrigin origin)
 {
     const std::optional<StyleFamily> family = FindFamily(names.Attribute(element, {Odf::kStyle, "family"}));
     if (!family)
@@ -130,6 +134,7 @@ void StyleReader::ReadStyle(pugi::xml_node element, XmlNames& names, StyleOrigin
     StyleRecord record;
     record.family = *family;
     record.origin = origin;
+    record.place = PlaceOfElement(element, text);
     record.name = names.Attribute(element, {Odf::kStyle, "name"});
     if (record.name.empty())
         return warnings.Add("a style without a name was passed over");
@@ -138,6 +143,8 @@ void StyleReader::ReadStyle(pugi::xml_node element, XmlNames& names, StyleOrigin
     record.isHidden = names.Attribute(element, {Odf::kStyle, "hidden"}) == "true";
     record.ownCategory = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kCategory});
     record.ownParentName = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kParent});
+    record.hasNoParent = record.parentName.empty() && record.ownParentName.empty() &&
+                         names.HasAttribute(element, {OwnMarkup::kNamespace, OwnMarkup::kParent});
     ReadProperties(element, names, record);
     // Programs repeat styles word for word; only a difference is worth a report.
     const StyleRecord* const earlier = catalogue.FindSame(record);

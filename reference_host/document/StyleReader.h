@@ -36,10 +36,14 @@ public:
     void ReadDeclarations(pugi::xml_node root, XmlNames& names);
 
     /// Reads the children of office:styles or office:automatic-styles, whose scope is in force.
-    void ReadStyles(pugi::xml_node container, XmlNames& names, StyleOrigin origin);
+    /// `text` is what the tree was made of.
+    void ReadStyles(pugi::xml_node container, std::string_view text, XmlNames& names, StyleOrigin origin);
 
     /// The default style of the graphic family; null when the styles read hold none.
     [[nodiscard]] const StyleRecord* GetDefault() const noexcept { return defaults ? &*defaults : nullptr; }
+
+    /// The names that were declared up to now.
+    [[nodiscard]] const DeclaredNames& GetDeclared() const noexcept { return declared; }
 
 private:
     /// An own attribute that names the palette entry of a colour.
@@ -58,8 +62,8 @@ private:
     };
 
     void ReadDeclaration(pugi::xml_node element, XmlNames& names);
-    void ReadDefault(pugi::xml_node element, XmlNames& names);
-    void ReadStyle(pugi::xml_node element, XmlNames& names, StyleOrigin origin);
+    void ReadDefault(pugi::xml_node element, std::string_view text, XmlNames& names);
+    void ReadStyle(pugi::xml_node element, std::string_view text, XmlNames& names, StyleOrigin origin);
     void ReadProperties(pugi::xml_node styleElement, XmlNames& names, StyleRecord& record);
     void ReadAttribute(pugi::xml_attribute attribute, XmlName name, PropertyElement element,
                        const StyleRecord& record, Found& found);

@@ -2,6 +2,7 @@
 
 #include "host/style_model/Style.h"
 #include "host/utils/Any.h"
+#include "host/utils/OvxStringT.h"
 
 #include <cstddef>
 #include <deque>
@@ -52,10 +53,14 @@ struct StyleRecord
     std::string ownCategory;        ///< The category of a named style that is not a whole style; else empty.
     std::string ownParentName;      ///< Its parent of the same category, as in the file; empty without one.
     bool isHidden = false;          ///< Hidden from people.
+    bool hasNoParent = false;       ///< Says of itself that shapes with it have no parent at all.
+    std::size_t place = 0;          ///< Where its start tag stands in its XML text.
     std::vector<StyleValue> values; ///< In the order of the table, each property once.
 
     StyleRecord* parent = nullptr;  ///< The named style of the same family that parentName means.
-    Styles::Style* style = nullptr; ///< What a named graphic style became; owned by the sheet.
+    Styles::Style* style = nullptr; ///< What a named graphic style became; owned by the sheet. It may be
+                                    ///< gone: while saving, the sheet tells whether it still has it.
+    OvxStringT sheetName; ///< The name under which the sheet took it in.
 };
 
 /// All styles of a drawing as they stand in its file. Records keep their addresses.

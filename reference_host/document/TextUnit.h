@@ -47,6 +47,9 @@ public:
     /// Tells whether the file gives the unit a colour by this palette entry, apart from the named style.
     [[nodiscard]] bool IsReadWithPaletteColour(const OvxStringT& entry) const;
 
+    /// The same where it was asked for already; null where it was not, so that it is as the file says.
+    [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }
+
 private:
     DrawingObject* object;
     CascadeStyles* styles;

@@ -1,5 +1,7 @@
 #include "reference_host/document/XmlNames.h"
 
+#include <algorithm>
+
 namespace ReferenceHost
 {
 
@@ -51,6 +53,13 @@ std::string_view XmlNames::Attribute(pugi::xml_node element, XmlName name)
             return attribute.value();
     }
     return {};
+}
+
+bool XmlNames::HasAttribute(pugi::xml_node element, XmlName name)
+{
+    const auto attributes = element.attributes();
+    return std::any_of(attributes.begin(), attributes.end(),
+                       [&](pugi::xml_attribute attribute) { return Of(attribute) == name; });
 }
 
 } // namespace ReferenceHost

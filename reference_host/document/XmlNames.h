@@ -49,6 +49,9 @@ public:
     /// The value of an attribute of the element whose Scope is in force; empty without it.
     [[nodiscard]] std::string_view Attribute(pugi::xml_node element, XmlName name);
 
+    /// Tells whether the element whose Scope is in force has an attribute, also an empty one.
+    [[nodiscard]] bool HasAttribute(pugi::xml_node element, XmlName name);
+
 private:
     NamespaceBindings bindings;
 };
