@@ -1,0 +1,212 @@
+#include "reference_host/services/AtomicFile.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fstream>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#if !defined(_WIN32)
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+using Path = std::filesystem::path;
+
+/// Removes a temporary file unless it has found its place.
+class Leftover
+{
+public:
+    explicit Leftover(Path file) : path(std::move(file)) {}
+
+    Leftover(const Leftover&) = delete;
+    Leftover& operator=(const Leftover&) = delete;
+
+    ~Leftover()
+    {
+        std::error_code ignored;
+        if (!path.empty())
+            std::filesystem::remove(path, ignored);
+    }
+
+    void Keep() { path.clear(); }
+
+private:
+    Path path;
+};
+
+/// Where the bytes go: behind all symbolic links, of which the last may lead to nothing yet.
+Path FollowLinks(Path target)
+{
+    constexpr int kMostLinks = 40;
+    for (int link = 0; std::filesystem::is_symlink(std::filesystem::symlink_status(target)); ++link)
+    {
+        if (link == kMostLinks)
+            throw std::system_error(std::make_error_code(std::errc::too_many_symbolic_link_levels),
+                                    "the link leads nowhere");
+        const Path next = std::filesystem::read_symlink(target);
+        target = next.is_absolute() ? next : target.parent_path() / next;
+    }
+    return target;
+}
+
+Path FolderOf(const Path& file)
+{
+    return file.has_parent_path() ? file.parent_path() : Path(".");
+}
+
+/// Keeps the old file under its second name, which both names share until the new file takes the first.
+void KeepBackup(const Path& file)
+{
+    Path backup = file;
+    backup += "~";
+    std::error_code failure;
+    std::filesystem::remove(backup, failure);
+    std::filesystem::create_hard_link(file, backup, failure);
+    // Not every file system knows hard links.
+    if (failure)
+        std::filesystem::copy_file(file, backup, std::filesystem::copy_options::overwrite_existing);
+}
+
+#if defined(_WIN32)
+
+Path WriteTemporary(const Path& file, std::string_view bytes)
+{
+    Path temporary = file;
+    temporary += ".new";
+    Leftover leftover(temporary);
+    std::ofstream stream(temporary, std::ios::binary | std::ios::trunc);
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    if (!stream)
+        throw std::system_error(std::make_error_code(std::errc::io_error), "the bytes cannot be written");
+    leftover.Keep();
+    return temporary;
+}
+
+void FlushFolder(const Path& /*folder*/)
+{
+}
+
+#else
+
+[[noreturn]] void Fail(const char* what)
+{
+    throw std::system_error(errno, std::generic_category(), what);
+}
+
+/// An open file, closed at the end.
+class Descriptor
+{
+public:
+    explicit Descriptor(int opened) : number(opened) {}
+
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    ~Descriptor()
+    {
+        if (number >= 0)
+            close(number);
+    }
+
+    [[nodiscard]] int Get() const noexcept { return number; }
+
+    /// Closes it now, and tells whether that went well: some file systems report failed writes only here.
+    [[nodiscard]] bool Close() { return close(std::exchange(number, -1)) == 0; }
+
+private:
+    int number;
+};
+
+void WriteAll(int descriptor, std::string_view bytes)
+{
+    while (!bytes.empty())
+    {
+        const ssize_t written = write(descriptor, bytes.data(), bytes.size());
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            Fail("the bytes cannot be written");
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+/// Gives a new file the permissions, and as far as possible the owner, of the one that it replaces; or those
+/// that new files get.
+void TakeOver(int descriptor, const Path& old)
+{
+    struct stat status
+    {
+    };
+
+    if (stat(old.c_str(), &status) != 0)
+    {
+        const mode_t mask = umask(0);
+        umask(mask);
+        constexpr mode_t kReadAndWrite = 0666;
+        if (fchmod(descriptor, kReadAndWrite & ~mask) != 0)
+            Fail("the permissions cannot be set");
+        return;
+    }
+    // Only some may give files away. The group alone often can be kept.
+    if (fchown(descriptor, status.st_uid, status.st_gid) != 0 &&
+        fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0)
+        errno = 0;
+    constexpr mode_t kAllPermissions = 07777;
+    if (fchmod(descriptor, status.st_mode & kAllPermissions) != 0)
+        Fail("the permissions cannot be kept");
+}
+
+Path WriteTemporary(const Path& file, std::string_view bytes)
+{
+    std::string name = (FolderOf(file) / ("." + file.filename().string() + ".XXXXXX")).string();
+    Descriptor descriptor(mkstemp(name.data()));
+    if (descriptor.Get() < 0)
+        Fail("no file can be made beside it");
+    Leftover leftover(name);
+    WriteAll(descriptor.Get(), bytes);
+    TakeOver(descriptor.Get(), file);
+    if (fsync(descriptor.Get()) != 0 || !descriptor.Close())
+        Fail("the bytes cannot be written");
+    leftover.Keep();
+    return name;
+}
+
+/// Makes the new name last. A file system that cannot do that for folders does it in its own time.
+void FlushFolder(const Path& folder)
+{
+    const Descriptor descriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.Get() >= 0)
+        fsync(descriptor.Get());
+}
+
+#endif
+
+} // namespace
+
+void WriteFileAtomically(const Path& target, std::string_view bytes, Backup backup)
+{
+    const Path file = FollowLinks(target);
+    const auto status = std::filesystem::status(file);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+        throw std::system_error(std::make_error_code(std::errc::invalid_argument),
+                                "what is there is no regular file");
+    const Path temporary = WriteTemporary(file, bytes);
+    Leftover leftover(temporary);
+    if (backup == Backup::Keep && std::filesystem::exists(status))
+        KeepBackup(file);
+    std::filesystem::rename(temporary, file);
+    leftover.Keep();
+    FlushFolder(FolderOf(file));
+}
+
+} // namespace ReferenceHost
