@@ -1,7 +1,7 @@
 # What has to be installed, and how. Sourced by run, test and the scripts beside this file; the one place to edit
 # when a dependency comes or goes.
 
-readonly BUILD_PACKAGES=(cmake g++ ninja-build pkg-config libpugixml-dev libzip-dev libcli11-dev nlohmann-json3-dev)
+readonly BUILD_PACKAGES=(cmake g++ ninja-build pkg-config libpugixml-dev libzip-dev zlib1g-dev libcli11-dev nlohmann-json3-dev)
 readonly TEST_PACKAGES=(libgtest-dev libgmock-dev)
 readonly CHECK_PACKAGES=(clang clang-tidy clang-format libclang-rt-14-dev)
 readonly COVERAGE_PACKAGES=(gcovr)
