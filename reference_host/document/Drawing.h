@@ -24,6 +24,12 @@ namespace ReferenceHost
 struct DrawingData;
 class History;
 
+/// How Drawing::Save() goes about it.
+struct SaveOptions
+{
+    bool keepBackup = false; ///< A file that is there already is kept as "NAME~".
+};
+
 /// How a drawing lies on disk.
 enum class DrawingForm
 {
@@ -126,6 +132,22 @@ public:
     ///
     /// @returns whether anything changed: not when `name` is empty, or the entry looks like this already.
     bool DefinePaletteColour(const OvxStringT& name, CLR_COLORSPEC::Rgb look);
+
+    // Saving
+
+    /// The bytes of the file with the model as it stands now. What was not changed stays byte for byte: the
+    /// bytes of a drawing that was never edited, or where all edits were undone, are those that were read.
+    ///
+    /// @param warnings receives one line in UTF-8 for everything that the file cannot hold.
+    /// @throws DocumentError
+    [[nodiscard]] std::string Serialise(std::vector<std::string>& warnings) const;
+
+    /// Writes what Serialise() gives to a file, at once or not at all: a failure leaves a file that was there
+    /// as it was, and nothing else behind. Permissions of such a file are kept, a symbolic link is followed.
+    ///
+    /// @throws DocumentError
+    void Save(const std::filesystem::path& target, const SaveOptions& options,
+              std::vector<std::string>& warnings) const;
 
 private:
     std::unique_ptr<DrawingData> data;

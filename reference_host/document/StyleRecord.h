@@ -60,7 +60,7 @@ struct StyleRecord
     StyleRecord* parent = nullptr;  ///< The named style of the same family that parentName means.
     Styles::Style* style = nullptr; ///< What a named graphic style became; owned by the sheet. It may be
                                     ///< gone: while saving, the sheet tells whether it still has it.
-    OvxStringT sheetName; ///< The name under which the sheet took it in.
+    OvxStringT sheetName;           ///< The name under which the sheet took it in.
 };
 
 /// All styles of a drawing as they stand in its file. Records keep their addresses.

@@ -1,0 +1,29 @@
+// How a drawing gets back to disk: the bytes come from the DrawingWriter, the file from the services.
+#include "reference_host/document/Drawing.h"
+#include "reference_host/document/DrawingWriter.h"
+#include "reference_host/services/AtomicFile.h"
+
+namespace ReferenceHost
+{
+
+std::string Drawing::Serialise(std::vector<std::string>& warnings) const
+{
+    return DrawingWriter(*data, warnings).Write();
+}
+
+void Drawing::Save(const std::filesystem::path& target, const SaveOptions& options,
+                   std::vector<std::string>& warnings) const
+{
+    const std::string bytes = Serialise(warnings);
+    try
+    {
+        WriteFileAtomically(target, bytes, options.keepBackup ? Backup::Keep : Backup::None);
+    }
+    catch (const std::system_error& error)
+    {
+        throw DocumentError(std::string("the drawing cannot be saved (") + error.what() + ")",
+                            target.string(), "a folder that can be written to, with enough room");
+    }
+}
+
+} // namespace ReferenceHost

@@ -1,0 +1,137 @@
+#include "reference_host/document/DrawingWriter.h"
+
+#include "reference_host/document/AutomaticStyleEdits.h"
+#include "reference_host/document/NamedStyleEdits.h"
+#include "reference_host/document/OdfNamespaces.h"
+#include "reference_host/document/PaletteEdits.h"
+#include "reference_host/document/ShapeEdits.h"
+#include "reference_host/document/StyleReferences.h"
+#include "reference_host/document/ZipArchive.h"
+#include "reference_host/document/ZipRewriter.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+constexpr std::string_view kManifestEntry = "META-INF/manifest.xml";
+
+/// The text of an entry that a package does not have, with a root and nothing in it.
+std::string EmptyDocument(std::string_view root)
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<office:" + std::string(root) + " xmlns:office=\"" +
+           std::string(Odf::kOffice) + "\" office:version=\"1.3\"></office:" + std::string(root) + ">\n";
+}
+
+/// An entry of a package that is spliced into.
+struct Entry
+{
+    Entry(std::string_view entryName, std::string_view text, std::string_view root, const std::string& file)
+        : name(entryName),
+          isNew(text.empty()),
+          made(isNew ? EmptyDocument(root) : std::string()),
+          part(isNew ? std::string_view(made) : text, file + ", " + std::string(entryName))
+    {
+    }
+
+    std::string name;
+    bool isNew;
+    std::string made;
+    SavedPart part;
+};
+
+/// The manifest with entries for texts that are new; as it is where it cannot be read.
+std::optional<std::string> ExtendManifest(const std::string& manifest, const std::string& label,
+                                          const std::vector<std::string>& added, Warnings& warnings)
+try
+{
+    SavedPart part(manifest, label);
+    const pugi::xml_node root = part.GetSource().GetRoot();
+    for (const std::string& name : added)
+    {
+        const std::vector<AttributeEdit> attributes{{Odf::kManifest, "full-path", name},
+                                                    {Odf::kManifest, "media-type", "text/xml"}};
+        part.GetEdits().AppendChild(root,
+                                    WriteStartTag(root, {Odf::kManifest, "file-entry"}, attributes, true));
+    }
+    return part.GetEdits().Apply();
+}
+
+catch (const DocumentError& error)
+{
+    // Programs that write sound drawings have written manifests with a DOCTYPE.
+    warnings.Add(std::string(error.what()) + "; the manifest was left as it is");
+    return std::nullopt;
+}
+
+} // namespace
+
+DrawingWriter::DrawingWriter(DrawingData& drawing, std::vector<std::string>& warningLines)
+    : data(drawing), warnings(warningLines), context{data, warnings}
+{
+}
+
+std::string DrawingWriter::Write()
+{
+    return data.file.form == DrawingForm::Flat ? WriteFlat() : WritePackage();
+}
+
+std::string DrawingWriter::WriteFlat()
+{
+    SavedPart part(data.file.bytes, data.file.label);
+    EditAll(part, part, part);
+    return part.GetEdits().Apply();
+}
+
+std::string DrawingWriter::WritePackage()
+{
+    const std::string& label = data.file.label;
+    Entry content("content.xml", data.file.content, "document-content", label);
+    Entry styles("styles.xml", data.file.styles, "document-styles", label);
+    Entry meta("meta.xml", data.file.meta, "document-meta", label);
+    EditAll(styles.part, content.part, meta.part);
+
+    std::vector<ZipReplacement> replacements;
+    std::vector<std::string> added;
+    for (Entry* const entry : {&content, &styles, &meta})
+    {
+        if (entry->part.GetEdits().IsEmpty())
+            continue;
+        std::string text = entry->part.GetEdits().Apply();
+        if (text == entry->part.GetSource().GetText())
+            continue;
+        if (entry->isNew)
+            added.push_back(entry->name);
+        replacements.push_back({entry->name, std::move(text)});
+    }
+    const ZipArchive archive(data.file.bytes, label);
+    if (!added.empty() && archive.Contains(std::string(kManifestEntry)))
+    {
+        const std::string manifest(kManifestEntry);
+        if (auto text = ExtendManifest(archive.Read(manifest), archive.LabelOf(manifest), added, warnings))
+            replacements.push_back({manifest, std::move(*text)});
+    }
+    return RewriteZip(data.file.bytes, replacements, label);
+}
+
+void DrawingWriter::EditAll(SavedPart& styles, SavedPart& content, SavedPart& meta)
+{
+    WritePalette(context, meta);
+    NamedStyleEdits named(context, styles);
+    named.Write();
+    AutomaticStyleEdits automatic(context, content, styles);
+    ShapeEdits shapes(context, content, named, automatic);
+    for (DrawingObject& object : data.objects)
+        shapes.Write(object);
+    automatic.Finish();
+    RenameStyleReferences(named.GetRenamed(), content);
+    if (&styles != &content)
+        RenameStyleReferences(named.GetRenamed(), styles);
+}
+
+} // namespace ReferenceHost

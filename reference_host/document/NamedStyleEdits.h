@@ -1,0 +1,56 @@
+#pragma once
+
+#include "reference_host/document/SavedPart.h"
+#include "reference_host/document/SavingContext.h"
+#include "reference_host/document/StyleElementEdits.h"
+#include "reference_host/document/StyleRecord.h"
+
+#include "host/style_model/Style.h"
+#include "host/utils/OvxStringT.h"
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+/// Brings the named styles and the default style of a file in line with those of the model.
+class NamedStyleEdits
+{
+public:
+    /// Borrows everything.
+    NamedStyleEdits(const SavingContext& savingContext, SavedPart& namedPart);
+
+    /// The encoded name that a named style will have in the file; empty for null and for a style that the
+    /// sheet does not hold.
+    [[nodiscard]] std::string NameInFile(const Styles::Style* style) const;
+
+    /// The encoded names that styles had, with those that they get, where they differ.
+    [[nodiscard]] const std::unordered_map<std::string, std::string>& GetRenamed() const noexcept
+    {
+        return renamed;
+    }
+
+    /// Makes the edits.
+    void Write();
+
+private:
+    void NameStyles();
+    void WriteDefault();
+    void WriteKnown(const StyleRecord& record);
+    void WriteNew(const OvxStringT& name, Styles::Style& style);
+    void AddNaming(const StyleRecord& record, std::vector<AttributeEdit>& attributes) const;
+    void AddParent(const Styles::Style& style, std::vector<AttributeEdit>& attributes) const;
+    [[nodiscard]] std::string DisplayNameOf(const OvxStringT& name) const;
+    void Append(std::string xml, pugi::xml_node container);
+
+    const SavingContext& context;
+    SavedPart& part;
+    StyleElementEdits writer;
+    std::unordered_map<const Styles::Style*, std::string> namesInFile;
+    std::unordered_map<std::string, std::string> renamed;
+    std::string withoutContainer; ///< New styles of a text that has no place for them yet.
+};
+
+} // namespace ReferenceHost

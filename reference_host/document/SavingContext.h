@@ -1,0 +1,60 @@
+#pragma once
+
+#include "reference_host/document/DrawingData.h"
+#include "reference_host/document/Warnings.h"
+
+#include "host/style_model/Style.h"
+#include "host/utils/Any.h"
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace ReferenceHost
+{
+
+/// Properties by the places of their first rows in the table. As changes, an empty value stands for a
+/// property that is no longer set.
+using PropertyValues = std::map<std::size_t, OvxUtils::Any>;
+
+/// What a style of the file shall say that it does not say now.
+struct StyleWish
+{
+    PropertyValues changes;
+
+    /// The encoded name of another parent, empty for none; without a value the parent stays.
+    std::optional<std::string> parent;
+
+    [[nodiscard]] bool IsEmpty() const { return changes.empty() && !parent; }
+
+    friend bool operator==(const StyleWish&, const StyleWish&) = default;
+};
+
+/// What all parts of saving look at. Borrows both.
+struct SavingContext
+{
+    DrawingData& data;
+    Warnings& warnings;
+};
+
+/// What a style sets itself. Properties that no row of the table holds cannot be saved and are left out.
+[[nodiscard]] PropertyValues OwnValuesOf(const Styles::Style& style, const PropertyMappings& table);
+
+/// What leads from one state of a style to another.
+[[nodiscard]] PropertyValues ChangesBetween(const PropertyValues& before, const PropertyValues& after);
+
+/// The style that the file as it is gives under `parent`: what `levels` set, nearest first, without a place
+/// in the drawing. A property of one category gives a style of that category, the empty key a whole one.
+[[nodiscard]] std::unique_ptr<Styles::Style> EvaluateRecords(const SavingContext& context,
+                                                             const Styles::PropertyKey& category,
+                                                             Styles::Style* parent, bool fallsBack,
+                                                             std::span<const StyleRecord* const> levels);
+
+/// How warnings name a property: "fill.color".
+[[nodiscard]] std::string NameOfRow(const PropertyMapping& row);
+
+} // namespace ReferenceHost
