@@ -24,7 +24,7 @@ History::Step::Step(History& itsHistory, const OvxStringT& name)
     history.Open(name);
 }
 
-History::Step::~Step()
+History::Step::~Step() noexcept(false)
 {
     if (!isOpen)
         return;

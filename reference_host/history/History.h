@@ -45,7 +45,7 @@ public:
         Step(History& itsHistory, const OvxStringT& name);
         Step(const Step&) = delete;
         Step& operator=(const Step&) = delete;
-        ~Step();
+        ~Step() noexcept(false);
 
         /// Takes back what happened since, and ends the step; a second call does nothing.
         void Cancel();
