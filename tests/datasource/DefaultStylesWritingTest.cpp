@@ -1,5 +1,6 @@
 // Writes into the document's default styles, and into the named styles of the default sheet.
 
+#include "host/data_binding/IAppEventBroadcaster.h"
 #include "tests/datasource/support/WritingTest.h"
 
 namespace
@@ -89,6 +90,20 @@ TEST_F(DefaultStylesWriting, RaisesOneEventForAllOfThemOnIdle)
     EXPECT_THAT(log.LinesOf({"event"}), IsEmpty()) << "not before the application is idle";
 
     EXPECT_THAT(Delivered(), ElementsAre("event StylePropertiesChange(fill, '')"));
+}
+
+TEST_F(DefaultStylesWriting, RaisesAnEventThatCarriesAKeyAndAText)
+{
+    auto& broadcaster = OvxUtils::Singleton<IAppEventBroadcaster>::GetInstance();
+    std::vector<PropertyKey> heard;
+    const ListenerToken token = broadcaster.Subscribe<PropertyKey, OvxStringT>(
+        L"StylePropertiesChange", [&heard](PropertyKey key, const OvxStringT&) { heard.push_back(key); });
+
+    panel.ModifyDefaultStyles(Paths({L"color"}), Change(3, OutlineStyleCategoryName));
+    RecordingEvents::DeliverPending();
+    broadcaster.Unsubscribe(token);
+
+    EXPECT_THAT(heard, ElementsAre(OutlineStyleCategoryName));
 }
 
 TEST_F(DefaultStylesWriting, RaisesTheEventWithoutASource)

@@ -98,8 +98,11 @@ TEST_F(GroupEnd, HandsTheApplicatorListsThatAnotherStartDoesNotClear)
     WriteBoth(Paths({L"color"}), Paths({L"type"}));
     log.onLine = [this](const std::string& line)
     {
-        if (line.starts_with("panel.GetCategory") || line.starts_with("panel.ModifyStyles"))
-            log.onLine = nullptr, panel.StartGroupModify(), panel.EndGroupModify(false);
+        if (!line.starts_with("panel.ModifyStyles"))
+            return;
+        log.onLine = nullptr;
+        panel.StartGroupModify();
+        panel.EndGroupModify(false);
     };
 
     Commit();
