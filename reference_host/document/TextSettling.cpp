@@ -32,7 +32,7 @@ struct ValueChange
 struct WholeChange
 {
     std::vector<ValueChange> values;
-    std::vector<PropertyKey> substylesWithNewParent; ///< Those that concern text.
+    std::set<PropertyKey> substylesWithNewParent; ///< Those that concern text.
     bool hasNewParent = false;
 
     [[nodiscard]] bool Contains(const ValueChange& sought) const
@@ -105,7 +105,7 @@ void AddSubstyle(WholeChange& change, const StyleImage& image, const PropertyMap
             change.values.push_back({now.name, key, before == nullptr ? OvxUtils::Any() : *before});
     }
     if (now.GetParent() != image.GetParent() && ConcernsText(table, now.name))
-        change.substylesWithNewParent.push_back(now.name);
+        change.substylesWithNewParent.insert(now.name);
 }
 
 /// Brings one shape in line.
@@ -156,7 +156,7 @@ private:
 
     void SpreadParent()
     {
-        Style* const source = FindNewParentSource();
+        Style* const source = FindSource([](const WholeChange& whole) { return whole.hasNewParent; });
         if (source == nullptr)
             return;
         Style* const parent = source->GetParent();
@@ -164,35 +164,39 @@ private:
         ForEachUnit([parent](TextUnit& unit) { unit.GetStyle()->SetParent(parent); });
     }
 
-    /// The style that was given another parent: the object's, or else the first of the text; null for none.
-    Style* FindNewParentSource()
+    void SpreadParentsOfSubstyles()
     {
-        if (change.object.hasNewParent)
+        std::set<PropertyKey> categories(change.object.substylesWithNewParent);
+        for (const auto& [unit, unitChange] : change.units)
+            categories.insert(unitChange.substylesWithNewParent.begin(),
+                              unitChange.substylesWithNewParent.end());
+        for (const PropertyKey& category : categories)
+        {
+            const Style* const source =
+                FindSource([&category](const WholeChange& whole)
+                           { return whole.substylesWithNewParent.contains(category); });
+            Style* const parent = source->GetSubstyle(category, false)->GetParent();
+            const auto give = [&category, parent](Style* whole)
+            { whole->GetSubstyleAndCreateIfMissing(category, category)->SetParent(parent); };
+            give(object.GetStyle());
+            ForEachUnit([&give](TextUnit& unit) { give(unit.GetStyle()); });
+        }
+    }
+
+    /// The style that was changed in a way: the object's, or else the first of the text; null for none.
+    template <class Predicate>
+    Style* FindSource(const Predicate& isChanged)
+    {
+        if (isChanged(change.object))
             return object.GetStyle();
         Style* found = nullptr;
         ForEachUnit(
             [&](TextUnit& unit)
             {
-                if (found == nullptr && change.Of(unit).hasNewParent)
+                if (found == nullptr && isChanged(change.Of(unit)))
                     found = unit.GetStyle();
             });
         return found;
-    }
-
-    void SpreadParentsOfSubstyles()
-    {
-        for (const PropertyKey& category : change.object.substylesWithNewParent)
-        {
-            const Style* const source = object.GetStyle()->GetSubstyle(category, false);
-            ForEachUnit(
-                [&](TextUnit& unit)
-                {
-                    const auto& itsOwn = change.Of(unit).substylesWithNewParent;
-                    if (std::ranges::find(itsOwn, category) == itsOwn.end())
-                        Styles::GetStyleOrSubstyle(unit.GetStyle(), category, true)
-                            ->SetParent(source->GetParent());
-                });
-        }
     }
 
     void ClearOuterLevels()

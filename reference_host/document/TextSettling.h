@@ -15,10 +15,9 @@ namespace ReferenceHost
 /// 1. A text or paragraph property that changed on the object changes in the same way in each paragraph that
 ///    had the same value as the object, also where that was none, and did not change it itself; what changed
 ///    in a paragraph, in the same way in its runs.
-/// 2. A new parent of the object becomes that of its paragraphs and runs. One that was given to a paragraph
-/// or
-///    run becomes that of the object first: text has the named style of its shape. A new parent of one of the
-///    object's substyles of text becomes that of the same substyle there.
+/// 2. A new parent of the object becomes that of its paragraphs and runs. One that was given to a
+///    paragraph or run becomes that of the object first: text has the named style of its shape. So do new
+///    parents of the substyles that concern text.
 /// 3. A property that was cleared in a run or paragraph is cleared on the levels outside it too, or it would
 ///    still be in force. The other paragraphs and runs keep what they had.
 class TextSettling final : public IHistoryDocument

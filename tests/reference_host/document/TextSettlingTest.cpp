@@ -176,6 +176,17 @@ TEST_F(SettledText, TakesTheParentsOfItsObjectsSubstylesOfText)
     EXPECT_EQ(Run(0)->GetSubstyle(Key(L"fill"), false)->GetParent(), nullptr);
 }
 
+TEST_F(SettledText, GivesTheParentOfASubstyleToItsObjectAndAllOfItself)
+{
+    Style* const heading = opened.drawing->AddStyle(Styles::GetCharacterStyleCategoryName(), L"Heading");
+    history.Open(L"Parent");
+    Run(1)->GetSubstyle(Key(L"character"), false)->SetParent(heading);
+    history.Close();
+
+    EXPECT_EQ(Object().GetStyle()->GetSubstyle(Key(L"character"), false)->GetParent(), heading);
+    EXPECT_EQ(Run(2)->GetSubstyle(Key(L"character"), false)->GetParent(), heading);
+}
+
 TEST_F(SettledText, IsClearedOnAllLevelsAroundARun)
 {
     history.Open(L"Revert");
