@@ -36,10 +36,12 @@ void SetShapeParent(std::vector<AttributeEdit>& attributes, const std::string& p
 }
 
 AutomaticStyleEdits::AutomaticStyleEdits(const SavingContext& savingContext, SavedPart& contentPart,
-                                         const SavedPart& namedPart)
+                                         const SavedPart& namedPart,
+                                         const std::unordered_map<std::string, std::string>& newNames)
     : context(savingContext),
       content(contentPart),
       named(namedPart),
+      renamed(newNames),
       writer(savingContext, contentPart.GetSource(), savingContext.data.declared)
 {
 }
@@ -109,6 +111,9 @@ void AutomaticStyleEdits::FinishStyle(const StyleRecord& record, const std::vect
         XmlEdits copy(source);
         EditStyle(element, record, group.wish, copy);
         copy.SetAttribute(element, {Odf::kStyle, "name", name});
+        const auto newParent = renamed.find(record.parentName);
+        if (!group.wish.parent && record.family == StyleFamily::Graphic && newParent != renamed.end())
+            copy.SetAttribute(element, {Odf::kStyle, "parent-style-name", newParent->second});
         content.GetEdits().InsertBehind(element, copy.Apply(source.BeginOf(element), source.EndOf(element)));
         for (const StyleReference& reference : group.references)
             Refer(reference, name);

@@ -32,9 +32,11 @@ struct StyleReference
 class AutomaticStyleEdits
 {
 public:
-    /// Borrows everything. New styles are called like none in either part; a flat drawing has one.
+    /// Borrows everything. `newNames` are those of named styles that get others, by the old ones. New styles
+    /// are called like none in either part; a flat drawing has one.
     AutomaticStyleEdits(const SavingContext& savingContext, SavedPart& contentPart,
-                        const SavedPart& namedPart);
+                        const SavedPart& namedPart,
+                        const std::unordered_map<std::string, std::string>& newNames);
 
     /// A place shall have another style than it names now. Once for each place.
     void Change(const StyleReference& reference, StyleWish wish);
@@ -74,6 +76,7 @@ private:
     const SavingContext& context;
     SavedPart& content;
     const SavedPart& named;
+    const std::unordered_map<std::string, std::string>& renamed;
     StyleElementEdits writer;
     std::vector<std::pair<const StyleRecord*, std::vector<Group>>> changed; ///< In the order of the calls.
     std::unordered_map<const StyleRecord*, std::size_t> placesOfChanged;

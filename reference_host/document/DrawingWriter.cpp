@@ -124,7 +124,7 @@ void DrawingWriter::EditAll(SavedPart& styles, SavedPart& content, SavedPart& me
     WritePalette(context, meta);
     NamedStyleEdits named(context, styles);
     named.Write();
-    AutomaticStyleEdits automatic(context, content, styles);
+    AutomaticStyleEdits automatic(context, content, styles, named.GetRenamed());
     ShapeEdits shapes(context, content, named, automatic);
     for (DrawingObject& object : data.objects)
         shapes.Write(object);

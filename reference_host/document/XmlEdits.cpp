@@ -31,6 +31,11 @@ pugi::xml_node LastChildElement(pugi::xml_node element)
     return child;
 }
 
+std::string_view WithoutLineBreak(std::string_view indentation)
+{
+    return indentation.substr(indentation.find('\n') + 1);
+}
+
 std::string WriteAttribute(std::string_view name, std::string_view value)
 {
     return " " + std::string(name) + "=\"" + EscapeAttributeValue(value, '"') + "\"";
@@ -149,11 +154,12 @@ void XmlEdits::SpliceElement(const ElementEdits& edits, std::vector<Splice>& tar
 std::string XmlEdits::DeeperIndentation(pugi::xml_node element) const
 {
     const std::string_view own = source.IndentationOf(element);
+    const std::string_view blanks = WithoutLineBreak(own);
+    const std::string_view outer = WithoutLineBreak(source.IndentationOf(element.parent()));
+    const bool isDeeper = blanks.starts_with(outer) && blanks.size() > outer.size();
     if (own.empty())
         return {};
-    const std::string_view outer = source.IndentationOf(element.parent());
-    const bool isDeeper = !outer.empty() && own.starts_with(outer) && own.size() > outer.size();
-    return std::string(own).append(isDeeper ? own.substr(outer.size()) : std::string_view(" "));
+    return std::string(own).append(isDeeper ? blanks.substr(outer.size()) : std::string_view(" "));
 }
 
 void XmlEdits::SpliceChildren(const ElementEdits& edits, const StartTag& tag,
