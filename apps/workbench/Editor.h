@@ -1,0 +1,126 @@
+#pragma once
+
+#include "apps/workbench/Change.h"
+#include "apps/workbench/EditError.h"
+#include "apps/workbench/Selection.h"
+#include "apps/workbench/Selector.h"
+#include "apps/workbench/Session.h"
+#include "apps/workbench/UsageError.h"
+#include "host/utils/OvxStringT.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Workbench
+{
+
+/// Changes the drawing of a session through its panels, one named step of history for each call.
+///
+/// Rows are named by panel and identifier ("fill.color"), whole styles by the panel alone ("fill").
+/// Everything goes through the bound names of the loaded panels, on what is selected; at first that is all
+/// objects. After each call the panels hold fresh targets, their listeners have been told, and the events
+/// that waited were delivered: how often does not depend on the number of targets.
+///
+/// Every operation either does all that it was asked or changes nothing. All but the plain getters throw:
+///
+/// @throws UsageError for a row, panel, style or palette entry that is not there, with those that are, and
+/// for
+///         a value that cannot be read, with what is accepted.
+/// @throws EditError  for what the drawing in its present state does not allow; names the state.
+class Editor
+{
+public:
+    /// `itsSession` is borrowed, has its panels loaded and outlives the editor; one editor for a session.
+    explicit Editor(Session& itsSession);
+
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    /// Drops a group that is still open.
+    ~Editor();
+
+    /// Selects what the following calls are about.
+    ///
+    /// @throws SelectionError when the selector finds nothing, EditError while a group is open.
+    void Select(const Selector& selector);
+
+    [[nodiscard]] const Selection& GetSelection() const noexcept;
+
+    /// Writes values, in order.
+    void Set(const std::vector<Assignment>& assignments);
+
+    /// Takes away the targets' own values, whatever the state of the rows.
+    void Clear(const std::vector<OvxStringT>& rows);
+
+    /// Runs the panels' revert command for rows, and for the whole style of panels that are named alone.
+    void Revert(const std::vector<OvxStringT>& rowsOrPanels);
+
+    /// Moves the own value of rows, or for panels that are named alone all own values, into the parents.
+    ///
+    /// Refuses what would change the look of a target: several targets have to agree in what they set and in
+    /// what they inherit from.
+    void ApplyToParent(const std::vector<OvxStringT>& rowsOrPanels);
+
+    /// Detaches the colours of rows from their palette entries; they keep their look.
+    void BreakLink(const std::vector<OvxStringT>& rows);
+
+    /// Makes a named style from the selection by the command of a panel.
+    ///
+    /// @param name what to call it; without one it is called after the panel's category.
+    /// @returns    the name of the new style.
+    OvxStringT CreateStyle(const OvxStringT& panel, const std::optional<OvxStringT>& name);
+
+    /// Runs the panel's command that opens the style which the targets inherit from, and selects that style.
+    /// Changes nothing in the drawing and makes no step.
+    ///
+    /// @returns the name of the style that is selected now.
+    OvxStringT EditStyle(const OvxStringT& panel);
+
+    /// Adds entries to the palette, or changes those that are there and every value that refers to them.
+    void DefineColours(const std::vector<PaletteAssignment>& colours);
+
+    /// Opens a group: everything until EndGroup() is one step.
+    void BeginGroup();
+
+    /// Closes the group; without `commit` everything since BeginGroup() is taken back.
+    void EndGroup(bool commit);
+
+    [[nodiscard]] bool IsGroupOpen() const noexcept;
+
+    /// Takes back the last step.
+    ///
+    /// @returns whether there was one.
+    bool Undo();
+
+    /// Does again what was taken back last.
+    ///
+    /// @returns whether there was a step.
+    bool Redo();
+
+    /// How many steps can be undone.
+    [[nodiscard]] std::size_t GetStepCount() const;
+
+    /// What the edits made of their targets: palette entries first, then the default styles, named styles in
+    /// the order of the sheet, and objects in document order, rows in the order of the panels. Each is
+    /// compared with what it was before the first edit that touched it; what was undone does not show.
+    [[nodiscard]] std::vector<Change> DescribeChanges();
+
+    /// Saves the drawing as it is now.
+    ///
+    /// @param target     replaced as a whole or not at all; may be the file that was opened.
+    /// @param keepBackup an existing target is kept beside it, with "~" behind its name.
+    /// @param warnings   receives one line in UTF-8 for everything that the file cannot hold.
+    /// @throws ReferenceHost::DocumentError when it cannot be written; EditError while a group is open.
+    void Save(const std::filesystem::path& target, bool keepBackup, std::vector<std::string>& warnings);
+
+private:
+    struct Workings;
+
+    std::unique_ptr<Workings> workings; ///< Never null.
+};
+
+} // namespace Workbench
