@@ -1,5 +1,6 @@
 // The rows of a panel as bound names: what the targets share, and where it comes from. Keeps nothing but the
-// rows; every answer is read from the targets when it is asked for.
+// rows and their names; every answer is read from the targets when it is asked for. What writes stands in
+// PanelWriting.
 
 #include "panels/PanelDatasource.h"
 
@@ -15,6 +16,15 @@ namespace Panels
 
 namespace
 {
+
+/// The names of every panel whose answers the targets decide, apart from "SectionTitle", which the base
+/// announces.
+constexpr OvxStringViewT kNamesThatDependOnTargets[] = {L"RevertToParentEnable", L"BreakColorResourceEnable",
+                                                        L"ApplyToParentEnable",  L"CreateStyleFromEnable",
+                                                        L"IsObjectStyle",        L"IsStyle",
+                                                        L"IsStyleOrDefault",     L"EditStyleEnable",
+                                                        L"RevertToMenuString",   L"ApplyToMenuString",
+                                                        L"EditStyleMenuString",  L"EnableStyleEditing"};
 
 PropertyPath ParsePath(OvxStringViewT identifier)
 {
@@ -41,22 +51,48 @@ void PanelDatasource::RegisterRows(std::span<const PanelRow> newRows)
     {
         const Row& row =
             rows.emplace_back(Row{OvxStringT(description.identifier), ParsePath(description.identifier)});
-        const OvxStringViewT name = description.property;
-        BindAnswer(name, &PanelDatasource::GetValue, row);
-        BindAnswer(name + OvxStringViewT(L"State"), &PanelDatasource::GetState, row);
-        BindAnswer(name + OvxStringViewT(L"Ambiguous"), &PanelDatasource::GetAmbiguous, row);
-        BindAnswer(name + OvxStringViewT(L"Origin"), &PanelDatasource::GetOrigin, row);
-        BindAnswer(name + OvxStringViewT(L"Link"), &PanelDatasource::GetLink, row);
-        BindAnswer(name + OvxStringViewT(L"ParentValue"), &PanelDatasource::GetParentValue, row);
+        BindRow(description.property, row);
     }
+    for (const OvxStringViewT name : kNamesThatDependOnTargets)
+        Announce(name);
+}
+
+void PanelDatasource::BindRow(OvxStringViewT property, const Row& row)
+{
+    const auto write = [this, &row](const Any& value) { SetValue(row, value); };
+    BindAnswer(property, &PanelDatasource::GetValue, row,
+               OvxUtils::RepeatingCallback<void(const Any&)>(write));
+    BindAnswer(property + OvxStringViewT(L"State"), &PanelDatasource::GetState, row);
+    BindAnswer(property + OvxStringViewT(L"Ambiguous"), &PanelDatasource::GetAmbiguous, row);
+    BindAnswer(property + OvxStringViewT(L"Origin"), &PanelDatasource::GetOrigin, row);
+    BindAnswer(property + OvxStringViewT(L"Link"), &PanelDatasource::GetLink, row);
+    BindAnswer(property + OvxStringViewT(L"ParentValue"), &PanelDatasource::GetParentValue, row);
+    BindAnswer(property + OvxStringViewT(L"ApplyToParentEnable"), &PanelDatasource::GetRowApplyEnable, row);
+    const auto apply = [this, &row] { ApplyRow(row); };
+    RegisterCommand(*this, property + OvxStringViewT(L"ApplyToParent"),
+                    OvxUtils::RepeatingCallback<void()>(apply));
 }
 
 template <class T>
 void PanelDatasource::BindAnswer(OvxStringViewT name, T (PanelDatasource::*answer)(const Row&) const,
-                                 const Row& row)
+                                 const Row& row, OvxUtils::RepeatingCallback<void(const T&)> setter)
 {
     const auto read = [this, answer, &row] { return (this->*answer)(row); };
-    RegisterProperty<T>(*this, name, OvxUtils::RepeatingCallback<T()>(read));
+    RegisterProperty<T>(*this, name, OvxUtils::RepeatingCallback<T()>(read), std::move(setter));
+    Announce(name);
+}
+
+void PanelDatasource::Announce(OvxStringViewT name)
+{
+    announcedNames += announcedNames.empty() ? OvxStringT(name) : OvxStringViewT(L",") + name;
+}
+
+void PanelDatasource::SetTargetStyle(const std::vector<Style*>& styles, bool isDefault,
+                                     const PropertyPath& path,
+                                     const std::set<PropertyPath>& newForceAmbiguous)
+{
+    BaseStylePropertiesDatasource::SetTargetStyle(styles, isDefault, path, newForceAmbiguous);
+    UpdateListeners(announcedNames);
 }
 
 Any PanelDatasource::ReadValue(Style& categoryStyle, const PropertyPath& path) const

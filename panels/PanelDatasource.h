@@ -6,11 +6,14 @@
 #include "host/utils/Any.h"
 #include "host/utils/OvxStringT.h"
 #include "host/utils/OvxStringViewT.h"
+#include "host/utils/RepeatingCallback.h"
 #include "panels/ValueOrigin.h"
 
 #include <deque>
 #include <optional>
+#include <set>
 #include <span>
+#include <vector>
 
 namespace Panels
 {
@@ -24,17 +27,23 @@ struct PanelRow
 
 /// The base of panels whose rows are a table: each row becomes a handful of bound names.
 ///
-/// For a row whose property is N, these names are bound, in this order, all of them to be read only:
+/// For a row whose property is N, these names are bound, in this order:
 ///
-/// | name           | type       | what it answers, over all targets                                     |
-/// |----------------|------------|-----------------------------------------------------------------------|
-/// | "N"            | Any        | the value they share; empty when ambiguous or when nothing sets one   |
-/// | "NState"       | int        | the ActivePropertyState of the row's identifier                       |
-/// | "NAmbiguous"   | int, 0/1   | whether they differ in the value                                      |
-/// | "NOrigin"      | OvxStringT | DescribeOrigin() of where it comes from; empty where they differ in it |
-/// | "NLink"        | OvxStringT | the palette entry that a colour refers to; empty without one and      |
-/// |                |            | where they differ in it                                               |
-/// | "NParentValue" | Any        | the value they would share without their own; empty where they differ |
+/// | name                    | type       | what it answers or does, over all targets                    |
+/// |-------------------------|------------|--------------------------------------------------------------|
+/// | "N"                     | Any        | the value they share; empty when ambiguous or when nothing   |
+/// |                         |            | sets one; can be written                                     |
+/// | "NState"                | int        | the ActivePropertyState of the row's identifier              |
+/// | "NAmbiguous"            | int, 0/1   | whether they differ in the value                             |
+/// | "NOrigin"               | OvxStringT | DescribeOrigin() of where it comes from; empty where they    |
+/// |                         |            | differ in it                                                 |
+/// | "NLink"                 | OvxStringT | the palette entry that a colour refers to; empty without one |
+/// |                         |            | and where they differ in it                                  |
+/// | "NParentValue"          | Any        | the value they would share without their own; empty where    |
+/// |                         |            | they differ                                                  |
+/// | "NApplyToParentEnable"  | int, 0/1   | whether the next one does anything                           |
+/// | "NApplyToParent"        | command    | moves the value that they share and set into what they       |
+/// |                         |            | inherit from, so that they look the same and inherit it      |
 ///
 /// Value and origin are two answers: targets may agree in one and differ in the other. A value that is
 /// missing beside one that is present is a difference, whichever comes first, and so is a forced path; one
@@ -42,8 +51,22 @@ struct PanelRow
 /// everything is empty, the state is None, and only what is forced is ambiguous.
 ///
 /// Reading never writes, and costs one walk over the targets for each name.
+///
+/// A value that is written becomes the targets' own, also when it equals the inherited one; an empty one
+/// takes their own away. A plain colour that looks like the palette colour which the targets share keeps
+/// their link: only the break command ends it. Nothing is notified for a write; whoever owns the targets
+/// hands them in anew.
 class PanelDatasource : public BaseStylePropertiesDatasource
 {
+public:
+    using BaseStylePropertiesDatasource::SetTargetStyle;
+
+    /// Takes new targets as the base does, and then notifies once, by their names joined, of every row and of
+    /// every name of the base that depends on the targets.
+    void SetTargetStyle(const std::vector<Styles::Style*>& styles, bool isDefault,
+                        const Styles::PropertyPath& path,
+                        const std::set<Styles::PropertyPath>& newForceAmbiguous) override;
+
 protected:
     PanelDatasource() = default;
 
@@ -69,6 +92,19 @@ protected:
     [[nodiscard]] virtual OvxUtils::Any ReadParentValue(Styles::Style& categoryStyle,
                                                         const Styles::PropertyPath& path) const;
 
+    /// Writes a value to all targets. Called when a row's name is written.
+    ///
+    /// The base makes it the targets' own value at `path`, or resets the path for an empty value.
+    virtual void WriteValue(const Styles::PropertyPath& path, const OvxUtils::Any& value);
+
+    /// The style that a value of `categoryStyle` moves to when it is applied to the parent.
+    ///
+    /// The base answers the same as the library does for whole styles: the style's own parent, else the
+    /// substyle of its category in its owner's parent.
+    ///
+    /// @returns null when there is none.
+    [[nodiscard]] virtual Styles::Style* FindApplyDestination(const Styles::Style& categoryStyle) const;
+
 private:
     struct Row
     {
@@ -76,8 +112,12 @@ private:
         Styles::PropertyPath path;
     };
 
+    void BindRow(OvxStringViewT property, const Row& row);
+    void Announce(OvxStringViewT name);
+
     template <class T>
-    void BindAnswer(OvxStringViewT name, T (PanelDatasource::*answer)(const Row&) const, const Row& row);
+    void BindAnswer(OvxStringViewT name, T (PanelDatasource::*answer)(const Row&) const, const Row& row,
+                    OvxUtils::RepeatingCallback<void(const T&)> setter = {});
 
     template <class T, class Reader>
     [[nodiscard]] std::optional<T> FindShared(const Reader& read) const;
@@ -90,9 +130,16 @@ private:
     [[nodiscard]] OvxStringT GetOrigin(const Row& row) const;
     [[nodiscard]] OvxStringT GetLink(const Row& row) const;
     [[nodiscard]] OvxUtils::Any GetParentValue(const Row& row) const;
+    [[nodiscard]] std::vector<Styles::Style*> FindApplyDestinations() const;
+    [[nodiscard]] int GetRowApplyEnable(const Row& row) const;
+    void ApplyRow(const Row& row);
+    void SetValue(const Row& row, const OvxUtils::Any& value);
 
     /// In order of registration. The bound names refer to them, so that they keep their addresses.
     std::deque<Row> rows;
+
+    /// The names that new targets are announced with, joined by commas.
+    OvxStringT announcedNames;
 };
 
 } // namespace Panels

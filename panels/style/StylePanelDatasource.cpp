@@ -3,7 +3,11 @@
 #include "panels/style/StylePanelDatasource.h"
 
 #include "host/style_model/CategoryNames.h"
+#include "host/style_model/IStylesSource.h"
+#include "host/style_model/StyleSheet.h"
+#include "module/StylesCommon.h"
 #include "panels/PanelRegistration.h"
+#include "panels/SourceGroup.h"
 
 #include <array>
 #include <set>
@@ -65,4 +69,49 @@ Panels::ValueOrigin StylePanelDatasource::ReadOrigin(Style& categoryStyle, const
 Any StylePanelDatasource::ReadParentValue(Style& /*categoryStyle*/, const PropertyPath& /*path*/) const
 {
     return Any();
+}
+
+void StylePanelDatasource::WriteValue(const PropertyPath& /*path*/, const Any& value)
+{
+    const OvxStringT name = value.IsEmpty() ? OvxStringT() : value.Get<OvxStringT>();
+    IStylesSource* source = StylesCommon::GetActiveStyleSource();
+    if (source == nullptr || AreTargetsDefaultStyles())
+        return;
+    if (name.empty())
+    {
+        RemoveParents(*source);
+        return;
+    }
+    const StyleSheet* sheet = source->GetStyleSheet();
+    if (Style* parent = sheet == nullptr ? nullptr : sheet->GetStyle(name))
+        SetParents(*source, *parent);
+}
+
+Style* StylePanelDatasource::FindApplyDestination(const Style& /*categoryStyle*/) const
+{
+    return nullptr;
+}
+
+void StylePanelDatasource::SetParents(IStylesSource& source, Style& parent)
+{
+    constexpr bool kReserved = true;
+    Panels::SourceGroup group(source);
+    for (std::size_t index = 0; index < GetNumTargetStyles(); ++index)
+    {
+        if (Style* style = GetTargetStyle(index))
+            source.SetParent(style, &parent, kReserved);
+    }
+    group.Commit();
+}
+
+void StylePanelDatasource::RemoveParents(IStylesSource& source)
+{
+    Panels::SourceGroup group(source);
+    for (std::size_t index = 0; index < GetNumTargetStyles(); ++index)
+    {
+        Style* style = GetTargetStyle(index);
+        if (style != nullptr && style->GetParent() != nullptr)
+            SetNoParent(&source, style);
+    }
+    group.Commit();
 }

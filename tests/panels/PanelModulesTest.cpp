@@ -25,7 +25,8 @@ std::vector<OvxStringT> NamesOf(const std::vector<PanelModuleCase::Row>& rows)
     std::vector<OvxStringT> names;
     for (const PanelModuleCase::Row& row : rows)
     {
-        for (const wchar_t* suffix : {L"", L"State", L"Ambiguous", L"Origin", L"Link", L"ParentValue"})
+        for (const wchar_t* suffix : {L"", L"State", L"Ambiguous", L"Origin", L"Link", L"ParentValue",
+                                      L"ApplyToParentEnable", L"ApplyToParent"})
             names.push_back(OvxStringViewT(row.property) + OvxStringViewT(suffix));
     }
     return names;
@@ -94,12 +95,14 @@ TEST_P(PanelModule, BindsItsRowsByType)
     const auto typeOf = [&](const wchar_t* suffix)
     { return panel.GetTypeOf(OvxStringViewT(property) + OvxStringViewT(suffix)); };
 
-    EXPECT_EQ(typeOf(L""), runtime_type<const Any>());
+    EXPECT_EQ(typeOf(L""), runtime_type<Any>());
     EXPECT_EQ(typeOf(L"State"), runtime_type<const int>());
     EXPECT_EQ(typeOf(L"Ambiguous"), runtime_type<const int>());
     EXPECT_EQ(typeOf(L"Origin"), runtime_type<const OvxStringT>());
     EXPECT_EQ(typeOf(L"Link"), runtime_type<const OvxStringT>());
     EXPECT_EQ(typeOf(L"ParentValue"), runtime_type<const Any>());
+    EXPECT_EQ(typeOf(L"ApplyToParentEnable"), runtime_type<const int>());
+    EXPECT_EQ(typeOf(L"ApplyToParent"), runtime_type<void()>());
 }
 
 TEST_P(PanelModule, OffersThePresetsOfItsCategory)
