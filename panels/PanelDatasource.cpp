@@ -134,24 +134,9 @@ std::optional<T> PanelDatasource::FindShared(const Reader& read) const
     return shared ? shared : T();
 }
 
-bool PanelDatasource::IsForced(const Row& row) const
-{
-    if (GetAmbiguousForce().empty() || GetNumTargetStyles() == 1)
-        return false;
-
-    PropertyPath path = row.path;
-    while (!GetAmbiguousForce().contains(path))
-    {
-        if (path.empty())
-            return false;
-        path.pop_back();
-    }
-    return true;
-}
-
 std::optional<Any> PanelDatasource::FindSharedValue(const Row& row) const
 {
-    if (IsForced(row))
+    if (GetNumTargetStyles() != 1 && IsForcedAmbiguous(row.path))
         return std::nullopt;
     return FindShared<Any>([&](Style& style) { return ReadValue(style, row.path); });
 }

@@ -122,7 +122,6 @@ private:
     template <class T, class Reader>
     [[nodiscard]] std::optional<T> FindShared(const Reader& read) const;
 
-    [[nodiscard]] bool IsForced(const Row& row) const;
     [[nodiscard]] std::optional<OvxUtils::Any> FindSharedValue(const Row& row) const;
     [[nodiscard]] OvxUtils::Any GetValue(const Row& row) const;
     [[nodiscard]] int GetState(const Row& row) const;

@@ -77,12 +77,7 @@ void PanelDatasource::WriteValue(const PropertyPath& path, const Any& value)
 
 Style* PanelDatasource::FindApplyDestination(const Style& categoryStyle) const
 {
-    if (Style* parent = categoryStyle.GetParent())
-        return parent;
-    const Style* owner = categoryStyle.GetOwner();
-    const Style* ownersParent = owner == nullptr ? nullptr : owner->GetParent();
-    return ownersParent == nullptr ? nullptr
-                                   : ownersParent->GetSubstyle(categoryStyle.GetCategoryName(), false);
+    return FindInParent(categoryStyle);
 }
 
 /// The styles that a row's value moves to, each once, in the order of the targets; none at all when one of
