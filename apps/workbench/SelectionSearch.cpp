@@ -1,5 +1,6 @@
 #include "apps/workbench/SelectionSearch.h"
 
+#include "apps/workbench/QuotedNames.h"
 #include "apps/workbench/SelectionError.h"
 #include "apps/workbench/Wildcard.h"
 #include "host/utils/Utf8.h"
@@ -121,13 +122,7 @@ constexpr FieldNoun kFieldNouns[] = {{SelectorField::Page, "pages"},
 /// "one of the names "Box", "Oval"": enough of the values to see what is there.
 std::string DescribeOffers(const std::string& noun, const std::vector<OvxStringT>& offers)
 {
-    constexpr std::size_t kShown = 20;
-    std::string text;
-    for (std::size_t i = 0; i < std::min(offers.size(), kShown); ++i)
-        text += (text.empty() ? "one of the " + noun + " \"" : ", \"") + OvxUtils::ToUtf8(offers[i]) + "\"";
-    if (offers.size() > kShown)
-        text += " and " + std::to_string(offers.size() - kShown) + " more";
-    return text;
+    return offers.empty() ? "" : "one of the " + noun + " " + QuotedList(offers);
 }
 
 [[noreturn]] void Fail(const Drawing& drawing, const Selector& selector, const std::string& expected)

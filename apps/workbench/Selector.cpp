@@ -1,5 +1,6 @@
 #include "apps/workbench/Selector.h"
 
+#include "apps/workbench/QuotedNames.h"
 #include "apps/workbench/UsageError.h"
 #include "apps/workbench/Wildcard.h"
 #include "host/utils/StringSplit.h"
@@ -35,11 +36,6 @@ constexpr FieldPrefix kFieldPrefixes[] = {{L"page:", SelectorField::Page},
 {
     throw UsageError("selector \"" + OvxUtils::ToUtf8(selector) + "\": " + problem + "; expected " +
                      expected);
-}
-
-std::string Quoted(OvxStringViewT text)
-{
-    return "\"" + OvxUtils::ToUtf8(text) + "\"";
 }
 
 /// A number from 1 on in its shortest form; none for anything else. Of any length: it is compared as text.
