@@ -117,9 +117,10 @@ public:
     /// @throws ReferenceHost::DocumentError when it cannot be written; EditError while a group is open.
     void Save(const std::filesystem::path& target, bool keepBackup, std::vector<std::string>& warnings);
 
-private:
+    /// What the sources of this class share; for these alone.
     struct Workings;
 
+private:
     std::unique_ptr<Workings> workings; ///< Never null.
 };
 

@@ -50,11 +50,13 @@ Session::Session(const std::filesystem::path& file, const std::vector<PanelDescr
     application.OpenDocument(&stylesSource, &drawingStyles);
     // The panels of a session edit the objects of its drawing: theirs is the host's current context.
     application.SetObjectPropertiesContext(&context);
+    context.AddDataSource(OvxStringT(NamedStyleEditor::kName), &styleEditor);
 }
 
 Session::~Session()
 {
     panels.clear();
+    context.RemoveDataSource(OvxStringT(NamedStyleEditor::kName));
     application.SetObjectPropertiesContext(nullptr);
     application.CloseDocument();
 }
@@ -82,18 +84,26 @@ Selection Session::Select(const Selector& selector)
     return FindSelection(*drawing, handover, selector);
 }
 
+std::vector<HandedTargets> Session::HandIn(const Selection& selection)
+{
+    ++handovers;
+    handover.HandInAsSelected(stylesSource, selection);
+    std::vector<HandedTargets> handed;
+    for (const std::unique_ptr<Panel>& panel : panels)
+        handed.push_back(handover.HandIn(panel->GetDataSource(), panel->GetDescription(), selection));
+    return handed;
+}
+
 Report Session::Inspect(const Selection& selection)
 {
+    const std::vector<HandedTargets> handed = HandIn(selection);
     Report report;
     report.selector = selection.selector;
     for (ReferenceHost::DrawingObject* object : selection.objects)
         report.targets.push_back(DescribeTarget(handover, *object));
-    for (const std::unique_ptr<Panel>& panel : panels)
-    {
-        const PanelDescription& description = panel->GetDescription();
-        const HandedTargets handed = handover.HandIn(panel->GetDataSource(), description, selection);
-        report.panels.push_back(ReadPanel(panel->GetBoundNames(), description, handed));
-    }
+    for (std::size_t index = 0; index < panels.size(); ++index)
+        report.panels.push_back(
+            ReadPanel(panels[index]->GetBoundNames(), panels[index]->GetDescription(), handed[index]));
     return report;
 }
 

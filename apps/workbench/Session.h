@@ -2,6 +2,7 @@
 
 #include "apps/workbench/DrawingStyles.h"
 #include "apps/workbench/LibraryIntroduction.h"
+#include "apps/workbench/NamedStyleEditor.h"
 #include "apps/workbench/Panel.h"
 #include "apps/workbench/PanelDescription.h"
 #include "apps/workbench/Report.h"
@@ -14,6 +15,7 @@
 #include "reference_host/services/DocumentStylesSource.h"
 #include "reference_host/services/HostObject.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -57,10 +59,21 @@ public:
     /// The loaded panels, in order.
     [[nodiscard]] const std::vector<std::unique_ptr<Panel>>& GetPanels() const noexcept { return panels; }
 
+    /// What panels find as the editor of named styles.
+    [[nodiscard]] NamedStyleEditor& GetStyleEditor() noexcept { return styleEditor; }
+
     /// Finds what a selector is about.
     ///
     /// @throws SelectionError when it finds nothing, see FindSelection().
     [[nodiscard]] Selection Select(const Selector& selector);
+
+    /// Hands a selection in to all panels, and to the style source as what is selected.
+    ///
+    /// @returns what each panel holds now, in their order.
+    std::vector<HandedTargets> HandIn(const Selection& selection);
+
+    /// How often a selection was handed in: whoever relies on his own being in force notices another's.
+    [[nodiscard]] std::size_t GetHandoverCount() const noexcept { return handovers; }
 
     /// Hands a selection in to all panels and reads what they show.
     ///
@@ -76,7 +89,9 @@ private:
     ReferenceHost::DocumentStylesSource stylesSource;
     TargetHandover handover;
     ReferenceHost::HostObject hostObject;
+    NamedStyleEditor styleEditor;
     ReferenceHost::DataContext context;
+    std::size_t handovers = 0;
     std::vector<std::unique_ptr<Panel>> panels; ///< None null.
 };
 

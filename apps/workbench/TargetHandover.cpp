@@ -94,6 +94,15 @@ Targets TargetsOf(ReferenceHost::Drawing& drawing, const Selection& selection,
     return TargetsOfSheet(drawing.GetStyleSheet(), selection.styleName, KeyOf(description.category));
 }
 
+/// The parent of a category style, else that of the style that owns it; null without one.
+const Style* DirectParentOf(const Style* categoryStyle)
+{
+    if (categoryStyle == nullptr || categoryStyle->GetParent() != nullptr)
+        return categoryStyle == nullptr ? nullptr : categoryStyle->GetParent();
+    const Style* const owner = categoryStyle->GetOwner();
+    return owner == nullptr ? nullptr : owner->GetParent();
+}
+
 OvxStringT JoinKeys(const Styles::PropertyPath& path)
 {
     OvxStringT joined;
@@ -145,10 +154,43 @@ HandedTargets TargetHandover::HandIn(BaseStylePropertiesDatasource& panel,
     return handed;
 }
 
+void TargetHandover::HandInAsSelected(ReferenceHost::DocumentStylesSource& source,
+                                      const Selection& selection) const
+{
+    if (selection.scope == SelectorScope::Sheet)
+    {
+        Style* const style = drawing->GetStyleSheet().GetStyle(selection.styleName);
+        source.SetSelectedStyles(style == nullptr ? std::vector<Style*>() : std::vector<Style*>{style});
+        return;
+    }
+    source.SetSelectedStyles(TargetsOfObjects(selection.objects, TargetKind::Objects).styles);
+}
+
 std::optional<OvxStringT> TargetHandover::TextOfChoice(const OvxUtils::Any& value)
 {
     const auto* const key = value.TryGet<PropertyKey>();
     return key == nullptr ? std::nullopt : std::optional(key->GetString());
+}
+
+OvxUtils::Any TargetHandover::ChoiceOfText(const OvxStringT& text)
+{
+    return OvxUtils::Any(KeyOf(text));
+}
+
+std::vector<OvxStringT> TargetHandover::ParentsOfTargets(const BaseStylePropertiesDatasource& panel) const
+{
+    std::vector<OvxStringT> names;
+    std::set<const Style*> seen;
+    for (std::size_t index = 0; index < panel.GetNumTargetStyles(); ++index)
+    {
+        const Style* const parent = DirectParentOf(panel.GetTargetStyle(index));
+        if (parent == nullptr || !seen.insert(parent).second)
+            continue;
+        const OvxStringT name = drawing->GetStyleSheet().GetStyleName(parent);
+        if (!name.empty())
+            names.push_back(name);
+    }
+    return names;
 }
 
 const std::vector<OvxStringT>& TargetHandover::GetStyleNames() const
@@ -170,6 +212,12 @@ std::vector<OvxStringT> TargetHandover::AncestorsOf(const OvxStringT& styleName)
     while (style != nullptr && (style = style->GetParent()) != nullptr)
         names.push_back(sheet.GetStyleName(style));
     return names;
+}
+
+OvxStringT TargetHandover::CategoryOf(const OvxStringT& styleName) const
+{
+    const Style* const style = drawing->GetStyleSheet().GetStyle(styleName);
+    return style == nullptr ? OvxStringT() : style->GetCategoryName().GetString();
 }
 
 std::vector<NamedStyleFacts> TargetHandover::DescribeNamedStyles() const

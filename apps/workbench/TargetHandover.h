@@ -7,6 +7,7 @@
 #include "host/utils/OvxStringT.h"
 #include "reference_host/document/Drawing.h"
 #include "reference_host/document/DrawingObject.h"
+#include "reference_host/services/DocumentStylesSource.h"
 
 #include <cstddef>
 #include <optional>
@@ -59,8 +60,19 @@ public:
     HandedTargets HandIn(BaseStylePropertiesDatasource& panel, const PanelDescription& description,
                          const Selection& selection) const;
 
+    /// Tells a style source what is selected: the whole styles of objects, or a named style. The default
+    /// styles count as nothing.
+    void HandInAsSelected(ReferenceHost::DocumentStylesSource& source, const Selection& selection) const;
+
     /// What a value of a choice means; none for any other value.
     [[nodiscard]] static std::optional<OvxStringT> TextOfChoice(const OvxUtils::Any& value);
+
+    /// The value of a choice that means `text`.
+    [[nodiscard]] static OvxUtils::Any ChoiceOfText(const OvxStringT& text);
+
+    /// The named styles that the targets of a panel inherit from directly, in the panel's category: each name
+    /// once, in the order of the targets. Styles without a name are left out.
+    [[nodiscard]] std::vector<OvxStringT> ParentsOfTargets(const BaseStylePropertiesDatasource& panel) const;
 
     /// The names of all named styles, in the order of the sheet.
     [[nodiscard]] const std::vector<OvxStringT>& GetStyleNames() const;
@@ -70,6 +82,9 @@ public:
 
     /// The names of the styles that a named style inherits from, nearest first; none for an unknown name.
     [[nodiscard]] std::vector<OvxStringT> AncestorsOf(const OvxStringT& styleName) const;
+
+    /// The category of a named style, "style" for a whole style; empty for an unknown name.
+    [[nodiscard]] OvxStringT CategoryOf(const OvxStringT& styleName) const;
 
     /// All named styles, in the order of the sheet.
     [[nodiscard]] std::vector<NamedStyleFacts> DescribeNamedStyles() const;

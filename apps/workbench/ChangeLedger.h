@@ -1,0 +1,85 @@
+#pragma once
+
+#include "apps/workbench/Change.h"
+#include "apps/workbench/Panel.h"
+#include "apps/workbench/Selection.h"
+#include "apps/workbench/Session.h"
+#include "host/colour/CLR_COLORSPEC.h"
+#include "host/utils/OvxStringT.h"
+#include "reference_host/services/DataContext.h"
+
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace Workbench
+{
+
+/// Remembers what targets showed before edits touched them, and tells what became of it.
+///
+/// Reads through panels of its own, so that those of the session and their listeners are left alone. What is
+/// kept grows with the targets that are touched, not with the number of edits.
+class ChangeLedger
+{
+public:
+    /// Makes a second data source of each of the session's panels; the session is borrowed.
+    explicit ChangeLedger(Session& itsSession);
+
+    /// Remembers what each target of a selection shows in a panel of the session, unless it is known already.
+    void Note(const Selection& selection, const Panel& panel);
+
+    /// Note() for all panels.
+    void Note(const Selection& selection);
+
+    /// Remembers that a named style was not there before.
+    void NoteCreated(const OvxStringT& styleName);
+
+    /// Remembers the look of a palette entry, or that there is none, unless it is known already.
+    void NotePalette(const OvxStringT& name);
+
+    /// What shows otherwise now, in the order that Editor::DescribeChanges() promises.
+    [[nodiscard]] std::vector<Change> Describe();
+
+private:
+    /// What a target shows in a row.
+    struct RowFacts
+    {
+        ReportValue value;
+        OvxStringT link;
+        ActivePropertyState state = ActivePropertyState::None;
+        bool isLocal = false;
+
+        friend bool operator==(const RowFacts&, const RowFacts&) = default;
+    };
+
+    struct Target
+    {
+        Selection selection; ///< Of this target alone.
+        bool isCreated = false;
+        std::map<std::size_t, std::vector<RowFacts>> before; ///< By the number of the panel, in row order.
+    };
+
+    [[nodiscard]] std::size_t NumberOf(const Panel& panel) const;
+    [[nodiscard]] Target& NeedTarget(const Selection& single);
+    [[nodiscard]] std::vector<RowFacts> ReadRows(std::size_t panel, const Selection& single) const;
+    [[nodiscard]] std::vector<const Target*> TargetsInOrder() const;
+    void DescribePalette(std::vector<Change>& changes) const;
+    void DescribeTarget(const Target& target, std::vector<Change>& changes) const;
+
+    Session& session;
+    ReferenceHost::DataContext context{nullptr, nullptr};
+    std::vector<std::unique_ptr<Panel>> readers;      ///< One for each panel of the session, in its order.
+    std::unordered_map<std::wstring, Target> targets; ///< By their selectors.
+    std::map<OvxStringT, std::optional<CLR_COLORSPEC::Rgb>> palette;
+
+    /// Which panels the selection that was noted last was noted for.
+    OvxStringT notedSelector;
+    std::set<std::size_t> notedPanels;
+};
+
+} // namespace Workbench
