@@ -112,6 +112,41 @@ TEST_F(AuthorsPanel, ShowsAPropertyBelowAForcedOneAsAmbiguous)
     EXPECT_EQ(panel.Read<int>(L"FirstAmbiguous"), 0);
 }
 
+TEST_F(AuthorsPanel, WritesAPropertyInASubstyleOfItsCategory)
+{
+    SetTargets(panel, {object});
+
+    panel.WriteAny(L"Nested", Number(5));
+
+    EXPECT_EQ(object->GetPathProperty({Key(L"authors"), Key(L"group"), Key(L"inner")}), Number(5));
+    EXPECT_EQ(panel.Read<OvxStringT>(L"NestedOrigin"), OvxStringT(L"local"));
+}
+
+TEST_F(AuthorsPanel, AppliesAPropertyInASubstyleOfItsCategoryToTheParent)
+{
+    base->SetPathProperty({Key(L"authors"), Key(L"group"), Key(L"inner")}, Number(3));
+    SetTargets(panel, {object});
+    panel.WriteAny(L"Nested", Number(5));
+
+    panel.Invoke(L"NestedApplyToParent");
+
+    EXPECT_EQ(ReadRow(panel, L"Nested"), (RowAnswers{.value = Number(5),
+                                                     .state = State::Inherited,
+                                                     .origin = L"style:Base",
+                                                     .parentValue = Number(5)}));
+}
+
+TEST_F(AuthorsPanel, TakesAPropertyInASubstyleOfItsCategoryAway)
+{
+    base->SetPathProperty({Key(L"authors"), Key(L"group"), Key(L"inner")}, Number(3));
+    SetTargets(panel, {object});
+    panel.WriteAny(L"Nested", Number(5));
+
+    panel.WriteAny(L"Nested", Any());
+
+    EXPECT_EQ(ReadRow(panel, L"Nested").origin, OvxStringT(L"style:Base"));
+}
+
 TEST_F(AuthorsPanel, ShowsWhatItsOverrideReads)
 {
     panel.shownValue = Text(L"shown instead");

@@ -100,13 +100,24 @@ OvxStringT PanelDocument::GetDisplayName(const OvxStringT& styleName) const
     return styleName;
 }
 
-std::unique_ptr<Style> PanelDocument::MakeWhole(Style* parent) const
+Style* PanelDocument::AddStyle(const PropertyKey& /*category*/, const OvxStringT& /*name*/)
+{
+    return nullptr;
+}
+
+bool PanelDocument::RenameStyle(const OvxStringT& /*name*/, const OvxStringT& /*newName*/)
+{
+    return false;
+}
+
+std::unique_ptr<Style> PanelDocument::MakeWhole(Style* parent)
 {
     auto whole = std::make_unique<Style>(parent, StyleCategoryName);
     for (const PropertyKey& category : {FillStyleCategoryName, OutlineStyleCategoryName,
                                         GetParagraphStyleCategoryName(), GetCharacterStyleCategoryName()})
         whole->GetSubstyleAndCreateIfMissing(category, category);
     ReferenceHost::SetDefaultStyle(*whole, defaults.get());
+    ReferenceHost::SetJournal(*whole, &history);
     return whole;
 }
 

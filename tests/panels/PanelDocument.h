@@ -4,6 +4,8 @@
 #include "host/style_model/Style.h"
 #include "host/utils/Any.h"
 #include "host/utils/OvxStringT.h"
+#include "reference_host/history/History.h"
+#include "reference_host/services/IDocumentEditor.h"
 #include "reference_host/services/IDocumentStyles.h"
 #include "reference_host/style_model/NamedStyleSheet.h"
 
@@ -27,8 +29,9 @@ namespace PanelTests
 [[nodiscard]] OvxUtils::Any Choice(const OvxStringT& text);
 [[nodiscard]] OvxUtils::Any Text(const OvxStringT& text);
 
-/// A document in memory: a sheet, a default style, and objects. Whole styles have their four substyles.
-class PanelDocument : public ReferenceHost::IDocumentStyles
+/// A document in memory: a sheet, a default style, and objects, and the history of their values. Whole styles
+/// have their four substyles. Named styles come by AddNamed() alone.
+class PanelDocument : public ReferenceHost::IDocumentStyles, public ReferenceHost::IDocumentEditor
 {
 public:
     PanelDocument();
@@ -56,12 +59,20 @@ public:
     [[nodiscard]] bool IsHidden(const OvxStringT& styleName) const override;
     [[nodiscard]] OvxStringT GetDisplayName(const OvxStringT& styleName) const override;
 
+    ReferenceHost::IDocumentEditor* GetEditor() override { return this; }
+
+    ReferenceHost::History& GetHistory() override { return history; }
+
+    Styles::Style* AddStyle(const Styles::PropertyKey& category, const OvxStringT& name) override;
+    bool RenameStyle(const OvxStringT& name, const OvxStringT& newName) override;
+
 private:
-    [[nodiscard]] std::unique_ptr<Styles::Style> MakeWhole(Styles::Style* parent) const;
+    [[nodiscard]] std::unique_ptr<Styles::Style> MakeWhole(Styles::Style* parent);
 
     std::unique_ptr<Styles::Style> defaults;
     ReferenceHost::NamedStyleSheet sheet;
     std::vector<std::unique_ptr<Styles::Style>> objects;
+    ReferenceHost::History history; ///< Goes before the styles whose values it keeps.
 };
 
 /// Sets a property in the substyle `category` of a whole style.
