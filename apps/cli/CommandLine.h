@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/cli/EditingCommand.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -33,13 +35,44 @@ struct StylesOptions
     DrawingOptions drawing;
 };
 
+/// Where an edited drawing goes: one of these, and a backup in place only.
+struct OutputOptions
+{
+    std::filesystem::path target; ///< A file of its own; empty without one.
+    bool isInPlace = false;
+    bool keepsBackup = false;
+    bool isDryRun = false;
+};
+
+/// What every command that changes a drawing takes.
+struct EditedDrawing
+{
+    DrawingOptions drawing;
+    std::string selector = "all";
+    OutputOptions output;
+};
+
+/// styleprops set, clear, revert, ...: one command.
+struct EditOptions
+{
+    EditedDrawing edited;
+    EditingCommand command;
+};
+
+/// styleprops edit: a script of commands.
+struct ScriptOptions
+{
+    EditedDrawing edited;
+    std::string script; ///< A file, or "-" for the standard input.
+};
+
 /// A text that was asked for in place of work: help or the version.
 struct InformationText
 {
     std::string text;
 };
 
-using Command = std::variant<InspectOptions, StylesOptions, InformationText>;
+using Command = std::variant<InspectOptions, StylesOptions, EditOptions, ScriptOptions, InformationText>;
 
 /// Reads the command line of the tool.
 ///

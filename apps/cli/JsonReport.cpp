@@ -143,6 +143,29 @@ Json StyleToJson(const Workbench::NamedStyleFacts& style)
     return json;
 }
 
+Json ChangeToJson(const Workbench::Change& change)
+{
+    Json json;
+    json["id"] = TextToJson(change.id);
+    json["property"] = TextToJson(change.property);
+    json["from"] = ValueToJson(change.from);
+    json["to"] = ValueToJson(change.to);
+    json["state"] = TextToJson(Workbench::StateName(change.state));
+    json["fromLink"] = OptionalToJson(change.fromLink);
+    json["toLink"] = OptionalToJson(change.toLink);
+    return json;
+}
+
+void AddAnswer(Json& object, const EditAnswer& answer)
+{
+    if (const auto* created = std::get_if<CreatedStyle>(&answer.content))
+        object["created"] = TextToJson(created->name);
+    if (const auto* opened = std::get_if<OpenedStyle>(&answer.content))
+        object["style"] = TextToJson(opened->name);
+    if (const auto* report = std::get_if<Workbench::Report>(&answer.content))
+        object["report"] = ReportToJson(*report);
+}
+
 JsonDocument::JsonDocument(const std::filesystem::path& file, const std::string& listName)
     : text("{\"file\": " + Dump(ReferenceHost::PathToUtf8(file)) + ", " + Dump(listName) + ": [")
 {
@@ -155,9 +178,12 @@ void JsonDocument::Add(const Json& piece)
     isEmpty = false;
 }
 
-std::string JsonDocument::Finish()
+std::string JsonDocument::Finish(const Json& members)
 {
-    text += isEmpty ? "]}\n" : "\n]}\n";
+    text += isEmpty ? "]" : "\n]";
+    for (const auto& member : members.items())
+        text += ", " + Dump(member.key()) + ": " + Dump(member.value());
+    text += "}\n";
     return std::move(text);
 }
 

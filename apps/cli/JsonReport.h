@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/cli/EditRun.h"
+#include "apps/workbench/Change.h"
 #include "apps/workbench/Report.h"
 #include "apps/workbench/TargetHandover.h"
 
@@ -18,6 +20,12 @@ namespace Cli
 /// A named style as programs read it.
 [[nodiscard]] nlohmann::ordered_json StyleToJson(const Workbench::NamedStyleFacts& style);
 
+/// What edits made of one row of one target, as programs read it.
+[[nodiscard]] nlohmann::ordered_json ChangeToJson(const Workbench::Change& change);
+
+/// Puts what a command told into an object: "created", "style" or "report".
+void AddAnswer(nlohmann::ordered_json& object, const EditAnswer& answer);
+
 /// Puts a document for programs together piece by piece, each on a line of its own, so that a large drawing
 /// is never held as a tree in memory.
 class JsonDocument
@@ -29,7 +37,9 @@ public:
     void Add(const nlohmann::ordered_json& piece);
 
     /// The whole document, UTF-8, its last line ended. To be called once, after the last piece.
-    [[nodiscard]] std::string Finish();
+    ///
+    /// @param members what stands behind the list: the members of this object.
+    [[nodiscard]] std::string Finish(const nlohmann::ordered_json& members = {});
 
 private:
     std::string text;

@@ -59,6 +59,12 @@ void WriteErrorLine(std::string_view message)
     static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }
 
+void WriteWarnings(const std::vector<std::string>& warnings)
+{
+    for (const std::string& warning : warnings)
+        WriteErrorLine("warning: " + warning);
+}
+
 void OutliveClosedPipes()
 {
 #if defined(SIGPIPE)

@@ -2,7 +2,9 @@
 
 #include "apps/cli/TextTable.h"
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace Cli
 {
@@ -19,6 +21,9 @@ void WriteStandardOutput(std::string_view text);
 /// Writes one line to the standard error, with the name of the program in front. Line breaks become blanks.
 /// What cannot be written is lost.
 void WriteErrorLine(std::string_view message);
+
+/// Writes lines to the standard error that tell of something to know, and of no failure.
+void WriteWarnings(const std::vector<std::string>& warnings);
 
 /// Lets writing to a pipe that nobody reads any more be an error instead of the end of the program.
 void OutliveClosedPipes();

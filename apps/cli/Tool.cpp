@@ -1,7 +1,9 @@
 #include "apps/cli/Tool.h"
 
 #include "apps/cli/CommandLine.h"
+#include "apps/cli/EditTool.h"
 #include "apps/cli/JsonReport.h"
+#include "apps/cli/LanguageChoice.h"
 #include "apps/cli/StandardOutput.h"
 #include "apps/cli/TextReport.h"
 #include "apps/workbench/PanelFolder.h"
@@ -11,9 +13,7 @@
 #include "apps/workbench/UsageError.h"
 #include "host/utils/Utf8.h"
 #include "reference_host/document/DocumentError.h"
-#include "reference_host/resources/Language.h"
 
-#include <cstdlib>
 #include <exception>
 
 namespace Cli
@@ -27,34 +27,6 @@ constexpr int kSuccess = 0;
 constexpr int kBadInput = 1;
 constexpr int kWrongUsage = 2;
 
-/// The locale that the person set for messages; empty when none is set.
-std::string MessageLocale()
-{
-    for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG"})
-    {
-        const char* const value = std::getenv(variable);
-        if (value != nullptr && *value != '\0')
-            return value;
-    }
-    return {};
-}
-
-void ChooseLanguage(const DrawingOptions& options)
-{
-    if (options.language.empty())
-    {
-        ReferenceHost::SetLanguage(options.isJson ? "en" : ReferenceHost::FindLanguageFor(MessageLocale()));
-        return;
-    }
-    if (ReferenceHost::SetLanguage(options.language))
-        return;
-    std::string known;
-    for (const std::string& language : ReferenceHost::GetLanguages())
-        known += (known.empty() ? "" : ", ") + language;
-    throw Workbench::UsageError("there are no texts in the language \"" + options.language +
-                                "\"; expected one of " + known);
-}
-
 /// Reports problems that leave the rest usable.
 ///
 /// @returns the exit status that they call for.
@@ -63,12 +35,6 @@ int ReportProblems(const std::vector<std::string>& problems)
     for (const std::string& problem : problems)
         WriteErrorLine(problem);
     return problems.empty() ? kSuccess : kBadInput;
-}
-
-void ReportWarnings(const std::vector<std::string>& warnings)
-{
-    for (const std::string& warning : warnings)
-        WriteErrorLine("warning: " + warning);
 }
 
 /// What the panels show for each of the selections, in the form that was asked for.
@@ -105,7 +71,7 @@ int Run(const InspectOptions& options)
     const auto chosen = Workbench::ChoosePanels(folder, names);
 
     Session session(options.drawing.file, folder.panels);
-    ReportWarnings(session.GetWarnings());
+    WriteWarnings(session.GetWarnings());
     status = std::max(status, ReportProblems(session.LoadPanels(chosen)));
     const Workbench::Selection selection = session.Select(selector);
     const auto selections = options.isEach ? Workbench::SplitByObject(selection) : std::vector{selection};
@@ -134,7 +100,7 @@ int Run(const StylesOptions& options)
     const Workbench::PanelFolder folder = FindCategories(options.drawing);
     const int status = ReportProblems(folder.problems);
     Session session(options.drawing.file, folder.panels);
-    ReportWarnings(session.GetWarnings());
+    WriteWarnings(session.GetWarnings());
     const std::vector<Workbench::NamedStyleFacts> styles = session.GetStyles().DescribeNamedStyles();
     if (!options.drawing.isJson)
     {
@@ -146,6 +112,18 @@ int Run(const StylesOptions& options)
         document.Add(StyleToJson(style));
     WriteStandardOutput(document.Finish());
     return status;
+}
+
+int Run(const EditOptions& options)
+{
+    RunEdit(options);
+    return kSuccess;
+}
+
+int Run(const ScriptOptions& options)
+{
+    RunEditScript(options);
+    return kSuccess;
 }
 
 int Run(const InformationText& information)

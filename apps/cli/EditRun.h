@@ -1,0 +1,71 @@
+#pragma once
+
+#include "apps/cli/EditScript.h"
+#include "apps/cli/EditingCommand.h"
+#include "apps/workbench/Editor.h"
+#include "apps/workbench/PanelFolder.h"
+#include "apps/workbench/Report.h"
+#include "apps/workbench/Session.h"
+#include "host/utils/OvxStringT.h"
+
+#include <cstddef>
+#include <variant>
+#include <vector>
+
+namespace Cli
+{
+
+/// create-style made a style.
+struct CreatedStyle
+{
+    OvxStringT name;
+};
+
+/// edit-style opened a style.
+struct OpenedStyle
+{
+    OvxStringT name;
+};
+
+/// What a command tells beside what it changes.
+struct EditAnswer
+{
+    std::size_t line = 0; ///< The line of a script; 0 outside of one.
+    std::variant<CreatedStyle, OpenedStyle, Workbench::Report> content; ///< A report for show.
+};
+
+/// Does commands on an open drawing, and gathers what they tell.
+class EditRun
+{
+public:
+    /// All three are borrowed and outlive this; the panels of the folder are those that were described to the
+    /// session.
+    EditRun(Workbench::Session& itsSession, Workbench::Editor& itsEditor,
+            const Workbench::PanelFolder& itsPanels)
+        : session(&itsSession), editor(&itsEditor), panels(&itsPanels)
+    {
+    }
+
+    /// Does one command that stands on no line.
+    ///
+    /// @throws what Workbench::Editor throws, and Workbench::EditError for undo and redo without a step.
+    void Do(const EditingCommand& command) { Do(0, command); }
+
+    /// Does all commands of a script.
+    ///
+    /// @throws ScriptError for the first that cannot be done; those before it are done then.
+    void Do(const EditScript& script);
+
+    /// What the commands told, in order.
+    [[nodiscard]] const std::vector<EditAnswer>& GetAnswers() const noexcept { return answers; }
+
+private:
+    void Do(std::size_t line, const EditingCommand& command);
+
+    Workbench::Session* session;
+    Workbench::Editor* editor;
+    const Workbench::PanelFolder* panels;
+    std::vector<EditAnswer> answers;
+};
+
+} // namespace Cli
