@@ -2,6 +2,8 @@
 
 #include "tests/cli/ToolProcess.h"
 
+#include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 namespace CliTests
@@ -31,7 +33,17 @@ std::string ShowOrigin(const Json& origin)
            (origin.contains("style") ? ":" + origin.at("style").get<std::string>() : "");
 }
 
+std::string ShowValue(const Json& value)
+{
+    return value.is_string() ? value.get<std::string>() : value.dump();
+}
+
 } // namespace
+
+std::string DrawingOnDisk::Bytes() const
+{
+    return BytesOf(file);
+}
 
 Json DrawingOnDisk::Json(const std::string& command, const std::vector<std::string>& options) const
 {
@@ -51,6 +63,27 @@ Json DrawingOnDisk::Report(const std::vector<std::string>& options) const
     return reports.front();
 }
 
+std::string BytesOf(const std::string& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << stream.rdbuf();
+    return bytes.str();
+}
+
+std::vector<std::string> ChangesOf(const Json& result)
+{
+    std::vector<std::string> changes;
+    for (const Json& change : result.at("changes"))
+    {
+        std::string shown;
+        for (const char* field : {"id", "property", "from"})
+            shown += ShowValue(change.at(field)) + " ";
+        changes.push_back(shown + "> " + ShowValue(change.at("to")) + " " + ShowValue(change.at("state")));
+    }
+    return changes;
+}
+
 Json PanelOf(const Json& report, const std::string& panel)
 {
     return ElementWith(report.at("panels"), "panel", panel);
@@ -60,7 +93,7 @@ std::string RowOf(const Json& report, const std::string& panel, const std::strin
 {
     const Json row = ElementWith(PanelOf(report, panel).at("rows"), "identifier", identifier);
     const Json& value = row.at("value");
-    std::string shown = value.is_string() ? value.get<std::string>() : value.dump();
+    std::string shown = ShowValue(value);
     if (row.at("ambiguous").get<bool>())
         shown = value.is_null() ? "ambiguous" : "ambiguous yet " + shown;
     return shown + " " + row.at("state").get<std::string>() + " " + ShowOrigin(row.at("origin"));

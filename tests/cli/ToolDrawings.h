@@ -22,6 +22,15 @@ public:
 
     [[nodiscard]] const std::string& GetFile() const { return file; }
 
+    /// The path of another file in the folder of the drawing.
+    [[nodiscard]] std::string Beside(const std::string& name) const
+    {
+        return (folder.GetPath() / name).string();
+    }
+
+    /// What the file holds now.
+    [[nodiscard]] std::string Bytes() const;
+
     /// Runs "styleprops COMMAND FILE --json OPTIONS" and reads what it writes.
     ///
     /// @throws std::runtime_error when the tool does not end with 0, or says anything on its standard error.
@@ -35,6 +44,12 @@ private:
     ScratchFolder folder;
     std::string file;
 };
+
+/// What a file holds; empty without it.
+[[nodiscard]] std::string BytesOf(const std::string& file);
+
+/// The changes that an editing command reports, each in short: "1/2 fill.color #ff0000 > #3366cc Overridden".
+[[nodiscard]] std::vector<std::string> ChangesOf(const nlohmann::ordered_json& result);
 
 /// The panel of a report.
 ///

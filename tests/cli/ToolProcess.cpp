@@ -73,8 +73,16 @@ std::string ReadTerminal(int reader)
     return text;
 }
 
+/// What the three standard streams of the tool are.
+struct Streams
+{
+    int input = -1;
+    int output = -1;
+    int error = -1;
+};
+
 [[noreturn]] void BecomeTool(const std::vector<std::string>& arguments,
-                             const std::map<std::string, std::string>& variables, int output, int error)
+                             const std::map<std::string, std::string>& variables, const Streams& streams)
 {
     for (const char* variable : {"LC_ALL", "LC_MESSAGES", "LANG", "NO_COLOR", "STYLEPROPS_PANELS"})
         unsetenv(variable);
@@ -87,8 +95,9 @@ std::string ReadTerminal(int reader)
     for (std::string& word : words)
         list.push_back(word.data());
     list.push_back(nullptr);
-    dup2(output, STDOUT_FILENO);
-    dup2(error, STDERR_FILENO);
+    dup2(streams.input, STDIN_FILENO);
+    dup2(streams.output, STDOUT_FILENO);
+    dup2(streams.error, STDERR_FILENO);
     execv(program.c_str(), list.data());
     _exit(127);
 }
@@ -115,18 +124,27 @@ ToolProcess& ToolProcess::To(OutputKind kind)
     return *this;
 }
 
+ToolProcess& ToolProcess::From(const std::string& text)
+{
+    input = text;
+    return *this;
+}
+
 ToolResult ToolProcess::Run() const
 {
     const ScratchFolder folder;
     const std::filesystem::path outputFile = folder.GetPath() / "output";
     const std::filesystem::path errorFile = folder.GetPath() / "error";
     const OutputEnds output = OpenOutput(outputKind, outputFile);
-    const int error = open(errorFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+    Streams streams;
+    streams.input = open(folder.Write("input", input).c_str(), O_RDONLY | O_CLOEXEC);
+    streams.output = output.tool;
+    streams.error = open(errorFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
     const pid_t child = fork();
     if (child == 0)
-        BecomeTool(arguments, variables, output.tool, error);
-    close(output.tool);
-    close(error);
+        BecomeTool(arguments, variables, streams);
+    for (const int stream : {streams.input, streams.output, streams.error})
+        close(stream);
     ToolResult result;
     if (output.reader != -1)
     {

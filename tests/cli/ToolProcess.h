@@ -38,11 +38,15 @@ public:
 
     ToolProcess& To(OutputKind kind);
 
+    /// What the tool finds on its standard input; nothing without this.
+    ToolProcess& From(const std::string& text);
+
     [[nodiscard]] ToolResult Run() const;
 
 private:
     std::vector<std::string> arguments;
     std::map<std::string, std::string> variables;
+    std::string input;
     OutputKind outputKind = OutputKind::File;
 };
 
