@@ -6,7 +6,7 @@
 #include "host/resources/Resources.h"
 #include "reference_host/services/NativePaths.h"
 
-#include <iterator>
+#include <initializer_list>
 #include <unordered_map>
 #include <utility>
 
@@ -100,29 +100,22 @@ OvxStringT SavingToText(const EditResult& result)
     return Fill(L"edit.saved-as", {file, PathToText(result.savedAs)});
 }
 
-void AppendAnswer(std::vector<TextLine>& lines, const EditAnswer& answer, const std::filesystem::path& file)
+/// What a command told. Each answer is laid out by itself: its columns are no one else's.
+std::vector<TextLine> AnswerToText(const EditAnswer& answer, const std::filesystem::path& file)
 {
     if (const auto* created = std::get_if<CreatedStyle>(&answer.content))
-        lines.push_back({{{Fill(L"edit.created", {created->name}), OutputRole::Plain}}, 0});
+        return {{{{Fill(L"edit.created", {created->name}), OutputRole::Plain}}, 0}};
     if (const auto* opened = std::get_if<OpenedStyle>(&answer.content))
-        lines.push_back({{{Fill(L"edit.opened", {opened->name}), OutputRole::Plain}}, 0});
-    if (const auto* report = std::get_if<Workbench::Report>(&answer.content))
-    {
-        std::vector<TextLine> shown = ReportToText(file, *report);
-        lines.insert(lines.end(), std::make_move_iterator(shown.begin()),
-                     std::make_move_iterator(shown.end()));
-        lines.push_back({});
-    }
+        return {{{{Fill(L"edit.opened", {opened->name}), OutputRole::Plain}}, 0}};
+    std::vector<TextLine> lines = ReportToText(file, std::get<Workbench::Report>(answer.content));
+    lines.push_back({});
+    return lines;
 }
 
-} // namespace
-
-std::vector<TextLine> EditResultToText(const EditResult& result,
-                                       const std::vector<Workbench::PanelDescription>& panels)
+std::vector<TextLine> ChangesToText(const EditResult& result,
+                                    const std::vector<Workbench::PanelDescription>& panels)
 {
     std::vector<TextLine> lines;
-    for (const EditAnswer& answer : result.answers)
-        AppendAnswer(lines, answer, result.file);
     lines.push_back({{{SavingToText(result), OutputRole::Heading}}, 0});
     if (result.changes.empty())
         lines.push_back({{{GetString(L"edit.no-change"), OutputRole::Faint}}, 2});
@@ -130,6 +123,17 @@ std::vector<TextLine> EditResultToText(const EditResult& result,
     for (const Change& change : result.changes)
         lines.push_back(ChangeToLine(change, rows));
     return lines;
+}
+
+} // namespace
+
+std::string EditResultToText(const EditResult& result, const std::vector<Workbench::PanelDescription>& panels,
+                             Colouring colouring)
+{
+    std::string text;
+    for (const EditAnswer& answer : result.answers)
+        text += LayOut(AnswerToText(answer, result.file), colouring);
+    return text + LayOut(ChangesToText(result, panels), colouring);
 }
 
 std::string EditResultToJson(const EditResult& result)

@@ -30,8 +30,10 @@ struct EditResult
 /// with what was changed, in which property, from and to which value, and the state now.
 ///
 /// @param panels those whose rows were changed; numbers are shown in the unit of their row.
-[[nodiscard]] std::vector<TextLine> EditResultToText(const EditResult& result,
-                                                     const std::vector<Workbench::PanelDescription>& panels);
+/// @returns UTF-8, every line ended.
+[[nodiscard]] std::string EditResultToText(const EditResult& result,
+                                           const std::vector<Workbench::PanelDescription>& panels,
+                                           Colouring colouring);
 
 /// The result as programs read it, the whole document; docs/json-format.md tells every field.
 [[nodiscard]] std::string EditResultToJson(const EditResult& result);

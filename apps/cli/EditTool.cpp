@@ -59,9 +59,8 @@ void EditDrawing(const EditedDrawing& edited, EditResult result, const std::func
     result.file = edited.drawing.file;
     result.isDryRun = edited.output.isDryRun;
     result.answers = run.GetAnswers();
-    WriteStandardOutput(edited.drawing.isJson
-                            ? EditResultToJson(result)
-                            : LayOut(EditResultToText(result, folder.panels), ChooseColouring()));
+    WriteStandardOutput(edited.drawing.isJson ? EditResultToJson(result)
+                                              : EditResultToText(result, folder.panels, ChooseColouring()));
 }
 
 } // namespace

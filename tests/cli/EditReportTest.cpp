@@ -9,7 +9,6 @@ using Cli::Colouring;
 using Cli::EditResult;
 using Cli::EditResultToJson;
 using Cli::EditResultToText;
-using Cli::LayOut;
 using testing::HasSubstr;
 using testing::StartsWith;
 using Workbench::Change;
@@ -38,10 +37,7 @@ protected:
         result.changes.push_back({L"1/4", L"outline.width", 50, 80, {}, {}, ActivePropertyState::Overridden});
     }
 
-    [[nodiscard]] std::string Text() const
-    {
-        return LayOut(EditResultToText(result, panels), Colouring::Off);
-    }
+    [[nodiscard]] std::string Text() const { return EditResultToText(result, panels, Colouring::Off); }
 
     std::vector<PanelDescription> panels;
     EditResult result;

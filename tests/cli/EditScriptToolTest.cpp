@@ -94,8 +94,8 @@ TEST_F(ScriptedBoxes, AreByteForByteAsBeforeWhenAllIsUndone)
     const ScratchFolder folder;
     const std::string script =
         folder
-            .Write("edits.txt", "set fill.color=#112233\nselect sheet:Base\nset outline.width=2mm\n"
-                                "palette Sand=#e9c46a\nselect name:Box\ncreate-style style --name Red\n"
+            .Write("edits.txt", "set fill.color=#112233\nselect name:Box\ncreate-style style --name Red\n"
+                                "select sheet:Base\nset outline.width=2mm\npalette Sand=#e9c46a\n"
                                 "undo\nundo\nundo\nundo\n")
             .string();
     const std::string out = drawing.Beside("out.fodg");
@@ -161,11 +161,12 @@ TEST_F(ScriptedBoxes, ShowWhatTheyAreInBetween)
 TEST_F(ScriptedBoxes, TellPeopleWhatTheCommandsTold)
 {
     const ToolResult result = ToolProcess({"edit", drawing.GetFile(), "--script", "-", "--dry-run"})
-                                  .From("select name:Box\ncreate-style style --name Red\nshow style\n")
+                                  .From("select name:Box\ncreate-style style --name Red\nshow fill\n")
                                   .Run();
 
     EXPECT_THAT(result.output,
                 StartsWith("New style: Red\n" + drawing.GetFile() + ": 1/1 rect \"Box\": Red < Base\n"));
+    EXPECT_THAT(result.output, HasSubstr("\n  ○  Colour        #ff0000  inherited from Red\n"));
     EXPECT_THAT(result.output, HasSubstr("\n\n" + drawing.GetFile() + ": nothing saved (dry run)\n"));
 }
 

@@ -122,7 +122,7 @@ TEST_F(EditedBoxes, BecomeExamplesOfANewStyle)
 
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(result.output, testing::StartsWith("New style: Red box\n"));
-    EXPECT_EQ(Row("name:Box", "style", "style"), "Red box Overridden local");
+    EXPECT_EQ(Row("name:Box", "style", "style"), "Red box Inherited local"); // nothing of its own is left
     EXPECT_EQ(Row("name:Box", "fill", "color"), "#ff0000 Inherited style:Red box");
     EXPECT_EQ(Row("sheet:Red box", "style", "style"), "Base Overridden local");
 }
