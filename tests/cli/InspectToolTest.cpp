@@ -175,14 +175,14 @@ TEST(InspectedObject, HasEveryPropertyThatIsANumberOrATextInOrder)
     for (const auto& property : properties.items())
         names.push_back(property.key());
 
-    EXPECT_THAT(names,
-                ElementsAre("ActiveIdentifier", "RevertToParentEnable", "BreakColorResourceEnable",
-                            "ApplyToParentEnable", "CreateStyleFromEnable", "IsObjectStyle", "IsStyle",
-                            "IsStyleOrDefault", "EditStyleEnable", "SectionTitle", "RevertToMenuString",
-                            "ApplyToMenuString", "EditStyleMenuString", "IsObjectProperties",
-                            "BaseStylePropertiesDatasourceOkEnabled", "EnableStyleEditing",
-                            "AddPresetEnabled", "DeletePresetEnabled", "StyleParentState",
-                            "StyleParentAmbiguous", "StyleParentOrigin", "StyleParentLink"));
+    EXPECT_THAT(names, ElementsAre("ActiveIdentifier", "RevertToParentEnable", "BreakColorResourceEnable",
+                                   "ApplyToParentEnable", "CreateStyleFromEnable", "IsObjectStyle", "IsStyle",
+                                   "IsStyleOrDefault", "EditStyleEnable", "SectionTitle",
+                                   "RevertToMenuString", "ApplyToMenuString", "EditStyleMenuString",
+                                   "IsObjectProperties", "BaseStylePropertiesDatasourceOkEnabled",
+                                   "EnableStyleEditing", "AddPresetEnabled", "DeletePresetEnabled",
+                                   "StyleParentState", "StyleParentAmbiguous", "StyleParentOrigin",
+                                   "StyleParentLink", "StyleParentApplyToParentEnable"));
     EXPECT_EQ(properties.at("ActiveIdentifier"), "");
     EXPECT_EQ(properties.at("IsObjectStyle"), 1);
     EXPECT_EQ(properties.at("EnableStyleEditing"), 1);
