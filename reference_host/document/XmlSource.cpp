@@ -52,6 +52,9 @@ std::size_t XmlSource::EndOf(pugi::xml_node node) const
 
 std::string_view XmlSource::IndentationOf(pugi::xml_node element) const
 {
+    // The root stands in the document itself, which is no element.
+    if (element.type() != pugi::node_element)
+        return {};
     const std::size_t end = BeginOf(element);
     std::size_t begin = end;
     while (begin > 0 && IsXmlBlank(text[begin - 1]))

@@ -1,0 +1,154 @@
+#include "reference_host/services/AtomicFile.h"
+
+#include "tests/reference_host/document/ScratchFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <csignal>
+#include <fstream>
+#include <iterator>
+#include <sys/resource.h>
+#include <system_error>
+#include <unistd.h>
+
+using ReferenceHost::Backup;
+using ReferenceHost::WriteFileAtomically;
+using testing::UnorderedElementsAre;
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+class AtomicFiles : public testing::Test
+{
+protected:
+    [[nodiscard]] static std::string BytesOf(const fs::path& file)
+    {
+        std::ifstream stream(file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+    [[nodiscard]] std::vector<std::string> Names() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(folder.GetPath()))
+            names.push_back(entry.path().filename().string());
+        return names;
+    }
+
+    ScratchFolder folder;
+};
+
+/// Lets no file grow beyond some bytes while it lives: what a full disk does to a writer.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes) : handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &old);
+        const rlimit limit{bytes, old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &old);
+        std::signal(SIGXFSZ, handler);
+    }
+
+private:
+    rlimit old{};
+    void (*handler)(int);
+};
+
+TEST_F(AtomicFiles, AreMadeWhereThereWereNone)
+{
+    WriteFileAtomically(folder.GetPath() / "new", "bytes", Backup::Keep);
+
+    EXPECT_EQ(BytesOf(folder.GetPath() / "new"), "bytes");
+    EXPECT_THAT(Names(), UnorderedElementsAre("new"));
+}
+
+TEST_F(AtomicFiles, KeepThePermissionsOfTheOldOne)
+{
+    const fs::path file = folder.Write("x", "old");
+    fs::permissions(file, static_cast<fs::perms>(0640));
+
+    WriteFileAtomically(file, "new", Backup::None);
+
+    EXPECT_EQ(BytesOf(file), "new");
+    EXPECT_EQ(fs::status(file).permissions(), static_cast<fs::perms>(0640));
+    EXPECT_THAT(Names(), UnorderedElementsAre("x"));
+}
+
+TEST_F(AtomicFiles, KeepTheOldOneAsABackupInPlaceOfAnEarlierOne)
+{
+    const fs::path file = folder.Write("x", "old");
+    folder.Write("x~", "older");
+
+    WriteFileAtomically(file, "new", Backup::Keep);
+
+    EXPECT_EQ(BytesOf(folder.GetPath() / "x~"), "old");
+    EXPECT_THAT(Names(), UnorderedElementsAre("x", "x~"));
+}
+
+TEST_F(AtomicFiles, FollowALink)
+{
+    const fs::path file = folder.Write("x", "old");
+    const fs::path link = folder.GetPath() / "link";
+    fs::create_symlink("x", link);
+
+    WriteFileAtomically(link, "new", Backup::None);
+
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(BytesOf(file), "new");
+}
+
+TEST_F(AtomicFiles, RefuseALinkThatLeadsToItself)
+{
+    const fs::path link = folder.GetPath() / "link";
+    fs::create_symlink("link", link);
+
+    EXPECT_THROW(WriteFileAtomically(link, "new", Backup::None), std::system_error);
+}
+
+TEST_F(AtomicFiles, LeaveTheOldOneWholeOnAFullDisk)
+{
+    const fs::path file = folder.Write("x", "old");
+    {
+        const FullDisk disk(1000);
+
+        EXPECT_THROW(WriteFileAtomically(file, std::string(5000, 'n'), Backup::Keep), std::system_error);
+    }
+
+    EXPECT_EQ(BytesOf(file), "old");
+    EXPECT_THAT(Names(), UnorderedElementsAre("x"));
+}
+
+TEST_F(AtomicFiles, LeaveTheOldOneWholeInAFolderThatIsReadOnly)
+{
+    if (geteuid() == 0)
+        GTEST_SKIP() << "nothing is read-only for root";
+    const fs::path file = folder.Write("x", "old");
+    fs::permissions(folder.GetPath(), static_cast<fs::perms>(0555));
+
+    EXPECT_THROW(WriteFileAtomically(file, "new", Backup::None), std::system_error);
+
+    fs::permissions(folder.GetPath(), static_cast<fs::perms>(0755));
+    EXPECT_EQ(BytesOf(file), "old");
+    EXPECT_THAT(Names(), UnorderedElementsAre("x"));
+}
+
+TEST_F(AtomicFiles, ReplaceNoFolder)
+{
+    fs::create_directory(folder.GetPath() / "x");
+
+    EXPECT_THROW(WriteFileAtomically(folder.GetPath() / "x", "new", Backup::None), std::system_error);
+    EXPECT_THAT(Names(), UnorderedElementsAre("x"));
+}
+
+} // namespace
