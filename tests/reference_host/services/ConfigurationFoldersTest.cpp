@@ -145,24 +145,26 @@ TEST_F(UserFolders, AreWhatThePresetManagerIsToldOf)
     EXPECT_EQ(presets.GetUserDocumentsDirectory(), Text(home / "Documents/Style Properties"));
 }
 
-TEST(PresetManagerHooks, NameNoFolderAndNoFile)
+TEST_F(UserFolders, HoldPresetsByCategoryBelowTheConfiguration)
 {
     OpenPresetManager presets;
 
-    EXPECT_TRUE(presets.GetPresetFolder(Styles::PresetLocation::CustomConfiguration, L"FillPresets").empty());
-    EXPECT_TRUE(presets.GetPresetFileName(Styles::PresetLocation::UserDocuments, L"Sunset").empty());
-    EXPECT_EQ(presets.GetPresetFormat(), 0);
+    ASSERT_TRUE(presets.AddPreset(L"FillPresets", L"Sunset", Styles::Style(), /*replace=*/false));
+
+    const OvxStringT folder =
+        presets.GetPresetFolder(Styles::PresetLocation::CustomConfiguration, L"FillPresets");
+    const OvxStringT file = presets.GetPresetFileName(Styles::PresetLocation::CustomConfiguration, L"Sunset");
+    EXPECT_TRUE(std::filesystem::exists(home / ".config/styleprops" / ReferenceHost::PathFromText(folder) /
+                                        ReferenceHost::PathFromText(file + L".preset")));
+    EXPECT_NE(presets.LoadPreset(L"FillPresets", L"Sunset"), nullptr);
 }
 
-TEST(PresetManagerHooks, LetItKeepNothing)
+TEST_F(UserFolders, HoldNoPresetsAmongDocuments)
 {
     OpenPresetManager presets;
-    const Styles::Style style;
 
-    const bool isKept = presets.AddPreset(L"FillPresets", L"Sunset", style, true);
-
-    EXPECT_FALSE(isKept);
-    EXPECT_TRUE(presets.GetPresetNames(L"FillPresets").empty());
+    EXPECT_TRUE(presets.GetPresetFolder(Styles::PresetLocation::UserDocuments, L"FillPresets").empty());
+    EXPECT_TRUE(presets.GetPresetFileName(Styles::PresetLocation::UserDocuments, L"Sunset").empty());
 }
 
 TEST(NativePaths, KeepTextsBeyondAscii)

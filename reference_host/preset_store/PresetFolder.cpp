@@ -1,0 +1,174 @@
+#include "reference_host/preset_store/PresetFolder.h"
+
+#include "reference_host/document/DocumentError.h"
+#include "reference_host/preset_store/PresetFile.h"
+#include "reference_host/preset_store/PresetFileName.h"
+#include "reference_host/preset_store/PresetReports.h"
+#include "reference_host/services/AtomicFile.h"
+#include "reference_host/services/FolderLock.h"
+#include "reference_host/services/NativePaths.h"
+
+#include <algorithm>
+#include <exception>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+#include <utility>
+
+namespace ReferenceHost
+{
+
+namespace
+{
+
+constexpr const char* kExtension = ".preset";
+
+/// More than any preset that was written here holds.
+constexpr std::uintmax_t kLargestFile = 1U << 20U;
+
+std::vector<std::filesystem::path> FindFiles(const std::filesystem::path& folder)
+{
+    std::vector<std::filesystem::path> files;
+    std::error_code ignored; // Without a folder there are no presets.
+    for (std::filesystem::directory_iterator entry(folder, ignored), end; entry != end;
+         entry.increment(ignored))
+    {
+        if (entry->path().extension() == kExtension)
+            files.push_back(entry->path());
+    }
+    std::ranges::sort(files);
+    return files;
+}
+
+std::string ReadFile(const std::filesystem::path& file)
+{
+    const std::string label = PathToUtf8(file);
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(file, error))
+        throw DocumentError("this is no file", label, "a preset");
+    if (std::filesystem::file_size(file, error) > kLargestFile || error)
+        throw DocumentError("the file is too large", label, "a preset of at most 1 MiB");
+    std::ifstream stream(file, std::ios::binary);
+    std::string text{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    if (!stream)
+        throw DocumentError("the file cannot be read", label, "a preset that may be read");
+    return text;
+}
+
+bool StandsBefore(const OvxStringT& left, const OvxStringT& right)
+{
+    const int order = left.Compare(right, CompareCase::Insensitive);
+    return order != 0 ? order < 0 : left < right;
+}
+
+/// Whether the file of a preset is the one that presets of that name are kept in.
+bool BearsItsName(const std::filesystem::path& file, const OvxStringT& name)
+{
+    return PathToUtf8(file.stem()) == MakePresetFileName(name);
+}
+
+} // namespace
+
+std::vector<PresetFolder::Entry> PresetFolder::Read() const
+{
+    std::vector<Entry> entries;
+    for (const std::filesystem::path& file : FindFiles(folder))
+    {
+        try
+        {
+            Preset preset = ParsePreset(ReadFile(file), PathToUtf8(file));
+            entries.push_back({std::move(preset.name), file, std::move(preset.style)});
+        }
+        catch (const DocumentError& error)
+        {
+            ReportPresetProblem(error.what());
+        }
+    }
+    std::ranges::stable_sort(entries,
+                             [](const Entry& left, const Entry& right)
+                             {
+                                 if (left.name != right.name)
+                                     return StandsBefore(left.name, right.name);
+                                 return BearsItsName(left.file, left.name) &&
+                                        !BearsItsName(right.file, right.name);
+                             });
+    const auto isRepeated = [](const Entry& first, const Entry& second)
+    {
+        if (first.name != second.name)
+            return false;
+        ReportPresetProblem(PathToUtf8(second.file) + ": the same name as " +
+                            PathToUtf8(first.file.filename()) + ", which counts; expected a name of its own");
+        return true;
+    };
+    entries.erase(std::unique(entries.begin(), entries.end(), isRepeated), entries.end());
+    return entries;
+}
+
+std::vector<OvxStringT> PresetFolder::ListNames() const
+{
+    std::vector<OvxStringT> names;
+    for (Entry& entry : Read())
+        names.push_back(std::move(entry.name));
+    return names;
+}
+
+bool PresetFolder::Contains(const OvxStringT& name) const
+{
+    return !FindFile(name).empty();
+}
+
+std::unique_ptr<Styles::Style> PresetFolder::Load(const OvxStringT& name) const
+{
+    std::vector<Entry> entries = Read();
+    const auto found = std::ranges::find(entries, name, &Entry::name);
+    return found == entries.end() ? nullptr : std::move(found->style);
+}
+
+/// Empty without a preset of that name.
+std::filesystem::path PresetFolder::FindFile(const OvxStringT& name) const
+{
+    const std::vector<Entry> entries = Read();
+    const auto found = std::ranges::find(entries, name, &Entry::name);
+    return found == entries.end() ? std::filesystem::path() : found->file;
+}
+
+bool PresetFolder::Add(const OvxStringT& name, const std::string& fileName, const Styles::Style& style,
+                       bool replace) const
+{
+    try
+    {
+        std::filesystem::create_directories(folder);
+        const FolderLock lock(folder);
+        std::filesystem::path file = FindFile(name);
+        if (!file.empty() && !replace)
+            return false;
+        if (file.empty())
+            file = folder / (fileName + kExtension);
+        WriteFileAtomically(file, FormatPreset(name, style), Backup::None);
+        return true;
+    }
+    catch (const std::exception& error)
+    {
+        ReportPresetProblem(error.what());
+        return false;
+    }
+}
+
+bool PresetFolder::Remove(const OvxStringT& name) const
+{
+    try
+    {
+        if (!std::filesystem::exists(folder))
+            return false;
+        const FolderLock lock(folder);
+        const std::filesystem::path file = FindFile(name);
+        return !file.empty() && std::filesystem::remove(file);
+    }
+    catch (const std::exception& error)
+    {
+        ReportPresetProblem(error.what());
+        return false;
+    }
+}
+
+} // namespace ReferenceHost

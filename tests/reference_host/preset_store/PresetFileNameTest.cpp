@@ -1,0 +1,43 @@
+#include "reference_host/preset_store/PresetFileName.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+
+namespace
+{
+
+using ReferenceHost::MakePresetFileName;
+
+TEST(PresetFileName, CanBeRecognised)
+{
+    EXPECT_EQ(MakePresetFileName(L"Warm Glow 2").substr(0, 12), "warm-glow-2-");
+}
+
+TEST(PresetFileName, TellsNamesApartThatLookAlike)
+{
+    EXPECT_NE(MakePresetFileName(L"Glow"), MakePresetFileName(L"glow"));
+    EXPECT_NE(MakePresetFileName(L"a b"), MakePresetFileName(L"a/b"));
+    EXPECT_NE(MakePresetFileName(L"\x4E2D"), MakePresetFileName(L"\x6587"));
+}
+
+TEST(PresetFileName, IsSafeForAnyText)
+{
+    for (const OvxStringT& name :
+         {OvxStringT(L"../../etc/passwd"), OvxStringT(L"."), OvxStringT(L""), OvxStringT(L"CON"),
+          OvxStringT(L"a\nb\tc"), OvxStringT(std::wstring(5000, L'x')),
+          OvxStringT(std::wstring(L"nul\0inside", 10))})
+    {
+        const std::string file = MakePresetFileName(name);
+
+        EXPECT_LE(file.size(), 60U);
+        EXPECT_TRUE(std::ranges::all_of(
+            file, [](unsigned char each)
+            { return std::islower(each) != 0 || std::isdigit(each) != 0 || each == '-'; }))
+            << file;
+        EXPECT_GE(file.size(), 16U);
+    }
+}
+
+} // namespace
