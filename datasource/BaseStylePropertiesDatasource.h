@@ -30,6 +30,11 @@
 class IMultipleStyleModifier;
 class IStylesSource;
 
+namespace Styles
+{
+class StyleSheet;
+}
+
 /// The logic behind one style-properties panel: what the targets' properties of one category are, where their
 /// values come from, and the commands on them.
 ///
@@ -49,12 +54,12 @@ class STYLEPROPERTIES_API BaseStylePropertiesDatasource
       public virtual PartialDataSource<BaseStylePropertiesDatasource, true>
 {
 public:
-    /// One data source that this one shows and edits the targets of as well.
+    /// One data source that this one shows and edits the targets of as well; borrowed, null is passed over.
     struct SiblingEntry
     {
-        BaseStylePropertiesDatasource* sibling = nullptr; ///< Borrowed; may be null, then it is passed over.
-        std::vector<Styles::PropertyPath> paths;          ///< For derived classes; empty and unused here.
-        bool flag = false;                                ///< For derived classes; false and unused here.
+        BaseStylePropertiesDatasource* sibling = nullptr;
+        std::vector<Styles::PropertyPath> paths; ///< For derived classes; empty and unused here.
+        bool flag = false;                       ///< For derived classes; false and unused here.
     };
 
     /// Makes a data source without targets.
@@ -68,8 +73,7 @@ public:
 
     /// Writes every property that `values` sets itself, substyles not counted; a null `values` does nothing.
     ///
-    /// The base hands on to the protected form, which decides where the change goes. Targets are not asked
-    /// for.
+    /// The base hands on to the protected form, which decides where it goes. Targets are not asked for.
     void ModifyStyles(std::unique_ptr<Styles::Style> values,
                       const Styles::PropertyPaths* overridePaths) const override;
 
@@ -79,10 +83,8 @@ public:
     /// @returns null when there is no such target or the target is null. Missing substyles are created.
     [[nodiscard]] Styles::Style* GetTargetStyle(std::size_t index) const override;
 
-    /// How many targets there are, null ones and those of siblings included.
+    /// How many targets there are, null ones and those of siblings included; HasTargets() whether any.
     [[nodiscard]] std::size_t GetNumTargetStyles() const override;
-
-    /// Tells whether there are targets, null ones included.
     [[nodiscard]] bool HasTargets() const override;
 
     /// The title above the panel's section; bound as "SectionTitle".
@@ -92,12 +94,10 @@ public:
     /// An override decides what the panel reads; it need not call the base.
     [[nodiscard]] virtual OvxStringT GetSectionTitle();
 
-    /// Takes new targets; what was derived from the old ones is derived anew. Raises "SectionTitle", nothing
-    /// else.
+    /// Takes new targets; what was derived from the old ones is derived anew. Raises "SectionTitle" alone.
     ///
     /// @param styles         the targets, in order; borrowed until the next call; any may be null.
-    /// @param isDefault      the targets are the document's default styles. With siblings, they then count
-    /// only
+    /// @param isDefault      the targets are the document's default styles; with siblings, these count only
     ///                       when no sibling contributes a target.
     /// @param path           where this data source's category lies within `forceAmbiguous`.
     /// @param forceAmbiguous paths that show as ambiguous; what lies under `path` is kept, see
@@ -113,8 +113,7 @@ public:
     /// maps differ; the styles themselves are not compared. Notifies nobody. An override calls the base.
     virtual void SetObjectStyles(const std::map<Styles::Style*, std::size_t>& newObjectStyles);
 
-    /// The category under which the host keeps this panel's presets; empty, as here, for a panel without
-    /// presets.
+    /// The category under which the host keeps this panel's presets; empty, as here, for one without.
     [[nodiscard]] virtual OvxStringT PresetCategoryName() const;
 
 protected:
@@ -127,17 +126,16 @@ protected:
     ///
     /// @param paths         what is written; a path at which `values` holds nothing is reset.
     /// @param values        the change style; may be null, then nothing but the paths is handed on.
-    /// @param overridePaths what is written as overrides of the selected objects; may be null. A path in both
-    ///                      lists counts as an override, except in a group.
+    /// @param overridePaths what is written as overrides of the selected objects; may be null. On the way to
+    ///                      the modifier, a path in both lists counts as an override.
     virtual void ModifyStyles(const Styles::PropertyPaths& paths, std::unique_ptr<Styles::Style> values,
                               const Styles::PropertyPaths* overridePaths) const;
 
 public:
-    /// Opens a group: what is written until EndGroupModify() is one change.
+    /// Opens a group: what is written until EndGroupModify() is one change. Called when a drag begins.
     ///
     /// On default styles this data source gathers the values, and a second call drops what was gathered; for
-    /// other targets the style source holds the group. Without a style source no group is opened. Called when
-    /// a drag begins.
+    /// other targets the style source holds the group. Without a style source no group is opened.
     virtual void StartGroupModify();
 
     /// Closes the group, applying what was gathered, or dropping it when `commit` is false.
@@ -155,13 +153,11 @@ protected:
     /// deliberate.
     [[nodiscard]] virtual ActivePropertyState GetActivePropertyState(const OvxStringT& identifier) const;
 
-    /// Tells whether `style` itself sets the property at `path`; false for null. Asked for each path of an
-    /// identifier.
+    /// Tells whether `style` itself sets the property at `path`; false for null. Asked for each active path.
     [[nodiscard]] virtual bool DoesOverrideProperty(Styles::Style* style,
                                                     const Styles::PropertyPath& path) const;
 
-    /// Resets the properties at `paths` on the targets, so that they inherit again. Does nothing without
-    /// targets.
+    /// Resets the properties at `paths` on the targets, if there are any, so that they inherit again.
     virtual void ClearProperties(const Styles::PropertyPaths& paths) const;
 
     /// Makes `style` independent of its parent while it keeps every value that it shows, by the style
@@ -181,17 +177,15 @@ protected:
     /// The paths of all properties of the category of `style`, which is not null; one key each, in key order.
     [[nodiscard]] virtual Styles::PropertyPaths GetStyleCategoryProperties(Styles::Style* style) const;
 
-    /// The category whose properties this panel shows. The base answers PropertyKey::Empty; every panel
-    /// overrides it.
+    /// The category whose properties this panel shows. Every panel overrides it; the base answers none.
     [[nodiscard]] virtual Styles::PropertyKey GetCategory() const;
 
-    /// What the style source's running transaction overrides; null when there is none.
+    /// What the style source's running transaction overrides; null without one.
     [[nodiscard]] virtual Styles::IModifyStyleOverrides* GetTransactionOverrides() const;
 
 public:
-    /// Ends the members only: neither does it unregister this object from siblings, nor does it unsubscribe
-    /// anything. The owner of a sibling relation calls UnregisterSiblingDS() on both sides before either data
-    /// source goes.
+    /// Ends the members only. The owner of a sibling relation calls UnregisterSiblingDS() on both sides
+    /// before either data source goes.
     ~BaseStylePropertiesDatasource() override;
 
     /// Finds the style applicator that the host object of the data context offers, attaches this data source
@@ -209,18 +203,15 @@ public:
     /// itself are passed over wherever siblings are used. The relation has one direction.
     void RegisterSiblingDS(BaseStylePropertiesDatasource* sibling);
 
-    /// Removes every entry of a sibling; does nothing when there is none. Targets merged from it stay until
-    /// the next SetTargetStyle().
+    /// Removes every entry of a sibling, if any. Targets merged from it stay until the next SetTargetStyle().
     void UnregisterSiblingDS(BaseStylePropertiesDatasource* sibling);
 
     // Targets
 
-    /// SetTargetStyle() with the path of one key.
     void SetTargetStyle(const std::vector<Styles::Style*>& styles, bool isDefault, Styles::PropertyKey key,
                         const std::set<Styles::PropertyPath>& forceAmbiguous);
 
-    /// SetObjectStyles() with an empty map.
-    void ClearObjectStyles();
+    void ClearObjectStyles(); ///< SetObjectStyles() with an empty map.
 
     /// All targets as they were merged, in order, null ones included.
     [[nodiscard]] std::vector<Styles::Style*> GetTargetStyles() const;
@@ -230,19 +221,16 @@ public:
     /// 1 when the panel edits the properties of objects rather than styles, else 0; bound under its name.
     [[nodiscard]] int IsObjectProperties() const { return isObjectProperties ? 1 : 0; }
 
-    /// IsObjectProperties() for direct callers.
     [[nodiscard]] bool IsObjectPropertiesContext() const { return isObjectProperties; }
 
     /// Tells whether the first target is no named style of the sheet; also true without targets.
     [[nodiscard]] bool IsObjectStyle() const { return styleName.empty(); }
 
-    /// IsObjectStyle() as 0 or 1; bound as "IsObjectStyle".
     [[nodiscard]] int IsObjectStyleDatabound() const { return styleName.empty() ? 1 : 0; }
 
-    /// 1 when the first target is a named style that the application does not exclude, else 0.
+    /// 1 when the first target is a named style, else 0; IsStyle() leaves out those that are excluded.
     [[nodiscard]] int IsStyle() const;
 
-    /// 1 when the first target is a named style, excluded or not, else 0.
     [[nodiscard]] int IsStyleOrDefault() const { return styleName.empty() ? 0 : 1; }
 
     /// 1 when the styles behind the targets may be edited, else 0: no style that is visited on the way from a
@@ -265,50 +253,37 @@ public:
     /// @note    May create a missing category substyle in a target: it asks GetTargetStyle() for each.
     [[nodiscard]] bool IsAmbiguous(const Styles::PropertyPath& path) const;
 
-    /// IsAmbiguous() of the path of one key.
-    [[nodiscard]] bool IsAmbiguous(const Styles::PropertyKey& key) const;
+    [[nodiscard]] bool IsAmbiguous(const Styles::PropertyKey& key) const; ///< Of the path of one key.
+    [[nodiscard]] bool IsAmbiguous() const;                               ///< Of the empty path.
 
-    /// IsAmbiguous() of the empty path.
-    [[nodiscard]] bool IsAmbiguous() const;
-
-    /// Names what commands and their enables are about: paths separated by ",", keys by ".", a path may end
-    /// in
-    /// "*"; or "style" for the whole style. Notifies "RevertToParentEnable", then "BreakColorResourceEnable",
-    /// also when the identifier stays the same.
+    /// Names what commands are about: paths separated by ",", keys by ".", a path may end in "*"; or "style".
+    /// Notifies "RevertToParentEnable", then "BreakColorResourceEnable", also when nothing changes.
     void SetActiveIdentifier(const OvxStringT& identifier);
 
     [[nodiscard]] OvxStringT GetActiveIdentifier() const { return activeIdentifier; }
 
-    /// Always empty: the bound property is a question that is asked by writing it.
-    [[nodiscard]] OvxUtils::Any GetPropertyIcon() const;
+    [[nodiscard]] OvxUtils::Any GetPropertyIcon() const; ///< Always empty: it is asked by writing it.
 
-    /// Writes into the ID_CString that `request` holds the name of the picture for the state of its
-    /// identifier.
-    ///
-    /// An empty `request` does nothing. The caller's own value is written to, never a copy.
+    /// Writes the name of the picture for the state of its identifier into the ID_CString that `request`
+    /// holds: into the caller's own value, never a copy. An empty `request` does nothing.
     ///
     /// @throws std::bad_cast when `request` holds anything but an ID_CString.
     void SetPropertyIcon(const OvxUtils::Any& request);
 
-    /// Always empty, as GetPropertyIcon().
     [[nodiscard]] OvxUtils::Any GetPropertyTooltip() const { return GetPropertyIcon(); }
 
     /// SetPropertyIcon() with the tooltip text of the state in place of the picture's name.
     void SetPropertyTooltip(const OvxUtils::Any& request);
 
-    // Style commands
+    // Style commands: none of them asks, shows a message or notifies; all are about the active identifier
 
-    // None of these asks, shows a message or notifies; all are about the active identifier.
-
-    /// The answer of GetApplyToParentEnable(): one computation serves both.
-    [[nodiscard]] int GetRevertToParentEnable() const { return GetApplyToParentEnable(); }
+    [[nodiscard]] int GetRevertToParentEnable() const { return GetApplyToParentEnable(); } ///< One for both.
 
     /// Clears the active properties on all targets, or with "style" all properties of the category, so that
     /// they inherit again. Does nothing unless enabled.
     void OnRevertToParent();
 
-    /// 1 when there is exactly one target and one of the active properties is a colour that refers to a
-    /// colour resource, else 0.
+    /// 1 when there is exactly one target and one of the active colours refers to a colour resource, else 0.
     ///
     /// @throws std::bad_cast when an active property before that is no colour.
     [[nodiscard]] int GetBreakColorResourceEnable() const;
@@ -330,8 +305,7 @@ public:
     /// 1 when the first target is no substyle, or has a parent; else 0.
     [[nodiscard]] int GetCreateStyleFromEnable() const;
 
-    /// Has the style source make a named style of this category under an unused name made from the
-    /// category's.
+    /// Has the style source make a named style of this category, named after it.
     void OnCreateStyleFrom();
 
     /// 1 when what the first target inherits from has a name, else 0.
@@ -342,31 +316,61 @@ public:
 
     /// The texts of the commands in menus, with the display name of what the first target inherits from,
     /// every
-    /// "&" in it doubled, or with a text that stands for a parent without a name.
+    /// "&" doubled, or with a text for a parent without a name.
     [[nodiscard]] OvxStringT GetRevertToMenuString() const;
     [[nodiscard]] OvxStringT GetApplyToMenuString() const;
     [[nodiscard]] OvxStringT GetEditStyleMenuString() const;
 
     // Style resource list
 
+    /// Builds the drop-down of named styles: "placeholderData" with an "itemData" for no style, for each
+    /// style of the category that the first target may inherit from, and, where these are more than 18, for
+    /// the first nine, the current one and "more styles". Without a sheet or a target the list is empty.
     [[nodiscard]] WXmlNode GetStyleResourceList();
-    [[nodiscard]] unsigned GetApplyStyleResource() const;
+
+    [[nodiscard]] unsigned GetApplyStyleResource() const; ///< Always 0: picking is done by writing.
+
+    /// Takes the entry of that id in the list built last: applies its style, or opens the more-styles dialog
+    /// of the category for an id beyond the main list. Unknown ids and the current style do nothing.
     void SetApplyStyleResource(const unsigned& id);
+
+    /// The list for the more-styles dialog: the styles of the category beyond the first nine, with ids from 9
+    /// on. Built once for each main list, and then what ids are looked up in.
     [[nodiscard]] WXmlNode GetNewStyleList();
-    [[nodiscard]] WXmlNode GetCurrentListStyleItem() const;
+
+    /// Chooses an item in the more-styles dialog; notifies "BaseStylePropertiesDatasourceOkEnabled".
     void SetCurrentListStyleItem(const WXmlNode& item);
+    [[nodiscard]] WXmlNode GetCurrentListStyleItem() const;
+
+    /// Applies the chosen item and closes the dialog; does nothing while none is chosen.
     void OnBaseStylePropertiesDatasourceOk();
     [[nodiscard]] int GetBaseStylePropertiesDatasourceOkEnabled() const;
+
+    /// "State.ObjectProperties" when this lives in the host's current context, else "State.ObjectStyles".
     [[nodiscard]] WCmnUI_Guid GetPropertyPanelStateIdentifier() const;
 
     // Presets
 
+    /// A copy of the list that all panels of the preset category share; filled when it is empty. Empty
+    /// without a preset category or the preset data source.
     [[nodiscard]] WCmnUI_List GetPresetList();
-    [[nodiscard]] WCmnUI_ListItem GetCurrentPreset();
+
+    [[nodiscard]] WCmnUI_ListItem GetCurrentPreset(); ///< Its index is -1 when none is selected.
+
+    /// Selects a preset and applies it to the default styles or to the objects that were handed in; an index
+    /// of -1 selects none. Notifies "CurrentPreset,DeletePresetEnabled".
     void SetCurrentPreset(const WCmnUI_ListItem& item);
+
+    /// 1 when objects are edited and the panel offers presets, else 0.
     [[nodiscard]] int IsAddPresetEnabled() const;
+
+    /// Opens the dialog that names a new preset, made from the whole style of the first target. Notifies
+    /// "DeletePresetEnabled" in any case.
     void OnAddPreset();
-    [[nodiscard]] int IsDeletePresetEnabled() const;
+
+    [[nodiscard]] int IsDeletePresetEnabled() const; ///< 1 when a preset is selected, else 0.
+
+    /// Deletes the selected preset without asking and selects none. Notifies as SetCurrentPreset().
     void OnDeletePreset();
 
     /// Deselects the preset: its index becomes -1, and in a panel that offers presets its text the no-preset
@@ -377,14 +381,13 @@ protected:
     /// The object that owns `style`, as it was handed in with SetObjectStyles(); null when there is none.
     [[nodiscard]] WNodeHandle* GetObjectFromStyle(Styles::Style* style) const;
 
-    /// The number by which the style applicator knows this data source; 0 without one.
+    /// What the style applicator knows this data source by; 0 without one.
     [[nodiscard]] int GetStyleApplicatorID() const { return styleApplicatorID; }
 
     /// Adds to the forced paths what lies under `path` in `paths`, relative to `path`. When `paths` holds
     /// `path` itself or a prefix of it, everything is forced: the empty path is added and nothing else.
     void ImportForceAmbiguous(const Styles::PropertyPath& path, const std::set<Styles::PropertyPath>& paths);
 
-    /// ImportForceAmbiguous() with the path of one key.
     void ImportForceAmbiguous(const Styles::PropertyKey& key, const std::set<Styles::PropertyPath>& paths);
 
     void ClearForceAmbiguous() { forceAmbiguous.clear(); }
@@ -416,8 +419,7 @@ protected:
     /// one. A last key "*" counts as a key.
     [[nodiscard]] bool DoesOverrideProperties(Styles::Style* style, const OvxStringT& identifier) const;
 
-    /// Tells listeners that "PresetList" changed.
-    void OnPresetsListUpdated();
+    void OnPresetsListUpdated(); ///< Tells listeners that "PresetList" changed.
 
 private:
     /// A write on its way to where it goes.
@@ -431,19 +433,17 @@ private:
     [[nodiscard]] Styles::Style* GetCategoryStyle(Styles::Style* target) const;
     [[nodiscard]] bool TakesPartAsSibling(const BaseStylePropertiesDatasource* sibling) const;
     [[nodiscard]] OvxStringT MakeSectionTitle(const OvxStringT& categoryDisplayName) const;
-    [[nodiscard]] OvxStringT FindStyleNameOfFirstTarget() const;
-    [[nodiscard]] bool DoesWholeStyleOverride(const Styles::Style* categoryStyle) const;
     void GatherIntoGroup(const PendingWrite& write) const;
     void ModifyTargets(IMultipleStyleModifier& modifier, PendingWrite& write) const;
     void ForwardToSiblings(const PendingWrite& write) const;
     void ModifyOwnStyles(IMultipleStyleModifier& modifier, PendingWrite& write) const;
-    [[nodiscard]] bool IsWholeStyleActive() const;
+    void AddStyleEntries(WXmlNode& list, const std::vector<OvxStringT>& names, const OvxStringT& current);
+    void AddOverflowEntries(WXmlNode& list, const Styles::StyleSheet& sheet);
+    void ApplyStyleResource(const OvxStringT& name);
+    void ApplyCurrentPreset(IStylesSource& source) const;
     [[nodiscard]] OvxStringT GetParentStyleName() const;
     void MergeSiblingTargets();
     void AppendTargetsOf(const BaseStylePropertiesDatasource& sibling);
-    void RegisterStyleNames();
-    void RegisterListNames();
-    void RegisterPresetNames();
 
     /// The styles handed in by the last SetTargetStyle(), in order. Borrowed from the host; any may be null.
     std::vector<Styles::SubStyle> ownStyles;

@@ -41,8 +41,8 @@ void BaseStylePropertiesDatasource::StartGroupModify()
         return;
     }
 
-    // The category is that of fills for every panel, and it decides where the group lands. Deliberate: hosts
-    // listen for it.
+    // The category is that of fills for every panel, and it decides where the group lands. Deliberate: it is
+    // what listeners of the change are told.
     groupModifyStyle = std::make_unique<Style>(nullptr, FillStyleCategoryName);
     groupModifyPaths.clear();
     groupModifyOverridePaths.clear();

@@ -5,6 +5,7 @@
 #include "datasource/CurrentDataContext.h"
 #include "host/data_binding/IDataContext.h"
 #include "host/utils/InterfaceId.h"
+#include "presets/StylePresets.h"
 
 #include <cstdint>
 
@@ -30,11 +31,10 @@ BaseStylePropertiesDatasource::BaseStylePropertiesDatasource()
 {
     listDocument.Load(L"<BaseStylePropertiesDatasource/>");
 
-    // A panel's presets would be attached to the add-preset data source here as a list property under the
-    // panel's preset category. While the base is under construction that category is always the base's own,
-    // which is empty, so nothing is attached and no context is asked for: panels read their lists through
+    // While the base is under construction the preset category is always the base's own, which is empty:
+    // nothing is attached and no context is asked for. Deliberate; panels read their lists through
     // "PresetList".
-    [[maybe_unused]] const bool offersPresets = !PresetCategoryName().empty();
+    AttachPresetList(PresetCategoryName());
 }
 
 BaseStylePropertiesDatasource::~BaseStylePropertiesDatasource() = default;

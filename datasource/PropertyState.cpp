@@ -78,6 +78,17 @@ const Any* FindValue(const Style* style, const PropertyPath& path)
     return style == nullptr ? nullptr : &style->GetProperty(path.back());
 }
 
+/// Empty substyles do not make a style override anything; they are left out of a copy.
+bool DoesWholeStyleOverride(const Style* categoryStyle)
+{
+    if (categoryStyle == nullptr || categoryStyle->IsEmpty())
+        return false;
+
+    Style copy(*categoryStyle);
+    ClearEmptySubstyles(copy);
+    return !copy.IsEmpty();
+}
+
 } // namespace
 
 void BaseStylePropertiesDatasource::ImportForceAmbiguous(const PropertyPath& path,
@@ -180,17 +191,6 @@ bool BaseStylePropertiesDatasource::DoesOverrideProperties(Style* style, const O
     const PropertyPaths paths = ParseActivePaths(identifier, /*dropWildcard=*/false);
     return std::any_of(paths.begin(), paths.end(),
                        [&](const PropertyPath& path) { return DoesOverrideProperty(style, path); });
-}
-
-// Empty substyles do not make a style override anything; they are left out of a copy.
-bool BaseStylePropertiesDatasource::DoesWholeStyleOverride(const Style* categoryStyle) const
-{
-    if (categoryStyle == nullptr || categoryStyle->IsEmpty())
-        return false;
-
-    Style copy(*categoryStyle);
-    ClearEmptySubstyles(copy);
-    return !copy.IsEmpty();
 }
 
 ActivePropertyState BaseStylePropertiesDatasource::GetActivePropertyState(const OvxStringT& identifier) const

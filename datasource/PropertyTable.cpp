@@ -49,18 +49,8 @@ private:
     This& object;
 };
 
-} // namespace
-
-void BaseStylePropertiesDatasource::FillDataSourceMap()
+void RegisterStyleNames(Table& table)
 {
-    RegisterStyleNames();
-    RegisterListNames();
-    RegisterPresetNames();
-}
-
-void BaseStylePropertiesDatasource::RegisterStyleNames()
-{
-    Table table(*this);
     table.ReadWrite(L"ActiveIdentifier", &This::GetActiveIdentifier, &This::SetActiveIdentifier);
     table.Read(L"RevertToParentEnable", &This::GetRevertToParentEnable);
     table.Command(L"OnRevertToParent", &This::OnRevertToParent);
@@ -81,9 +71,8 @@ void BaseStylePropertiesDatasource::RegisterStyleNames()
     table.Read(L"SectionTitle", &This::GetSectionTitle);
 }
 
-void BaseStylePropertiesDatasource::RegisterListNames()
+void RegisterListNames(Table& table)
 {
-    Table table(*this);
     table.Read(L"StyleResourceList", &This::GetStyleResourceList);
     table.ReadWrite(L"ApplyStyleResource", &This::GetApplyStyleResource, &This::SetApplyStyleResource);
     table.Read(L"RevertToMenuString", &This::GetRevertToMenuString);
@@ -98,13 +87,22 @@ void BaseStylePropertiesDatasource::RegisterListNames()
     table.Read(L"EnableStyleEditing", &This::GetEnableStyleEditing);
 }
 
-void BaseStylePropertiesDatasource::RegisterPresetNames()
+void RegisterPresetNames(Table& table)
 {
-    Table table(*this);
     table.Read(L"PresetList", &This::GetPresetList);
     table.ReadWrite(L"CurrentPreset", &This::GetCurrentPreset, &This::SetCurrentPreset);
     table.Read(L"AddPresetEnabled", &This::IsAddPresetEnabled);
     table.Command(L"OnAddPreset", &This::OnAddPreset);
     table.Read(L"DeletePresetEnabled", &This::IsDeletePresetEnabled);
     table.Command(L"OnDeletePreset", &This::OnDeletePreset);
+}
+
+} // namespace
+
+void BaseStylePropertiesDatasource::FillDataSourceMap()
+{
+    Table table(*this);
+    RegisterStyleNames(table);
+    RegisterListNames(table);
+    RegisterPresetNames(table);
 }

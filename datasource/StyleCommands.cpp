@@ -40,6 +40,11 @@ OvxStringT MenuText(OvxStringViewT key, OvxStringT name)
     return OvxStringT::FormatMessageInserts(Framework::Resources::GetString(key), {name});
 }
 
+bool NamesWholeStyle(const OvxStringT& identifier)
+{
+    return identifier == StyleCategoryName.GetString();
+}
+
 } // namespace
 
 int BaseStylePropertiesDatasource::GetApplyToParentEnable() const
@@ -48,16 +53,11 @@ int BaseStylePropertiesDatasource::GetApplyToParentEnable() const
     return state == ActivePropertyState::Overridden || state == ActivePropertyState::Ambiguous ? 1 : 0;
 }
 
-bool BaseStylePropertiesDatasource::IsWholeStyleActive() const
-{
-    return activeIdentifier == StyleCategoryName.GetString();
-}
-
 void BaseStylePropertiesDatasource::OnRevertToParent()
 {
     if (GetApplyToParentEnable() == 0 || targetStyles.empty())
         return;
-    if (!IsWholeStyleActive())
+    if (!NamesWholeStyle(activeIdentifier))
     {
         ClearProperties(ParseActivePaths(activeIdentifier, /*dropWildcard=*/true));
         return;
@@ -72,7 +72,7 @@ void BaseStylePropertiesDatasource::OnRevertToParent()
 // for these. Deliberate.
 void BaseStylePropertiesDatasource::OnApplyToParent()
 {
-    if (GetApplyToParentEnable() == 0 || targetStyles.empty() || !IsWholeStyleActive())
+    if (GetApplyToParentEnable() == 0 || targetStyles.empty() || !NamesWholeStyle(activeIdentifier))
         return;
     const Style* style = GetCategoryStyle(GetFirstTarget());
     if (style == nullptr)

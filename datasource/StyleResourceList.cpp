@@ -1,10 +1,236 @@
-// The drop-down of parent styles. No list is offered yet.
+// The drop-down of named styles that the targets can take, and the list of those that do not fit into it.
+// Keeps the list built last, in which picked ids are looked up, and what is chosen in the more-styles dialog.
 
 #include "datasource/BaseStylePropertiesDatasource.h"
+#include "datasource/CurrentDataContext.h"
+#include "host/data_binding/IDataContext.h"
+#include "host/resources/Resources.h"
+#include "host/style_model/CategoryNames.h"
+#include "host/style_model/IStylesSource.h"
+#include "host/xml/WXPath.h"
+#include "module/Constants.h"
+#include "module/StylesCommon.h"
+
+#include <array>
+#include <utility>
+
+using namespace Styles;
+
+namespace
+{
+
+constexpr OvxStringViewT kNoStyleTextKey = L"f28ee68b-9815-4dc6-8faa-529bd81fcb44";
+constexpr OvxStringViewT kNoParentTextKey = L"d067aa9e-2e7b-48e4-b8f7-d1269f936601";
+constexpr OvxStringViewT kMoreStylesTextKey = L"21f1822a-aa97-4a53-bd73-31d27c53fc3b";
+
+/// How many names the main list holds, and how many of them it still shows when there are more.
+constexpr std::int32_t kLongestList = 18;
+constexpr std::int32_t kShownOfMore = 9;
+
+/// The result by which a dialog is accepted.
+constexpr int kAccepted = 2;
+
+StyleSheet* FindSheet(IStylesSource* source)
+{
+    return source == nullptr ? nullptr : source->GetStyleSheet();
+}
+
+OvxStringT ParentNameOf(const Style* style, const StyleSheet& sheet)
+{
+    return style == nullptr ? OvxStringT() : sheet.GetStyleName(style->GetParent());
+}
+
+/// Whether `style` may become the parent of `target`: what is the parent already may stay so, and what
+/// inherits from the target would close a cycle.
+bool IsOffered(const Style* style, Style* target)
+{
+    if (style == nullptr || style == target)
+        return false;
+    const std::array<Style*, 1> one{target};
+    return style == target->GetParent() || !style->HasParentalDependency(one);
+}
+
+std::vector<OvxStringT> OfferedNames(const StyleSheet& sheet, const PropertyKey& category, Style* target)
+{
+    std::vector<OvxStringT> names = sheet.GetStyleNames(category);
+    std::erase_if(names, [&](const OvxStringT& name) { return !IsOffered(sheet.GetStyle(name), target); });
+    return names;
+}
+
+/// Ampersands mark keys in menus.
+OvxStringT Escaped(OvxStringT name)
+{
+    name.Replace(L"&", L"&&");
+    return name;
+}
+
+/// An entry of a list, whose attributes are written in the order of the calls.
+class ListEntry
+{
+public:
+    explicit ListEntry(WXmlNode& list) : node(list.CreateChild(L"itemData"))
+    {
+        SetString(L"@type", L"statusText");
+    }
+
+    void SetString(const wchar_t* address, const OvxStringT& value)
+    {
+        node.Attribute(address).SetString(value, OvxStringT());
+    }
+
+    void SetCheck(bool isChecked) { node.Attribute(L"@check").SetBool(isChecked); }
+
+    /// What every entry that applies a style has.
+    void SetEnabled()
+    {
+        node.Attribute(L"@enable").SetBool(true);
+        SetString(L"@guid", {});
+    }
+
+    void SetId(std::int32_t id) { node.Attribute(L"@placeholderCommandID").SetInt(id); }
+
+private:
+    WXmlNode node;
+};
+
+// Here the name stands before the text, in all other entries behind it. Deliberate: this is the format.
+void AddNoStyleEntry(WXmlNode& list, OvxStringViewT textKey, bool isChecked)
+{
+    ListEntry entry(list);
+    entry.SetString(L"@styleName", {});
+    entry.SetString(L"@text", Framework::Resources::GetString(textKey));
+    entry.SetCheck(isChecked);
+    entry.SetEnabled();
+    entry.SetId(0);
+}
+
+void AddStyleEntry(WXmlNode& list, const OvxStringT& name, bool isChecked, std::int32_t id)
+{
+    ListEntry entry(list);
+    entry.SetString(L"@text", name);
+    entry.SetString(L"@styleName", name);
+    entry.SetCheck(isChecked);
+    entry.SetEnabled();
+    entry.SetId(id);
+}
+
+void AddMoreStylesEntry(WXmlNode& list, std::int32_t id)
+{
+    const OvxStringT text = Framework::Resources::GetString(kMoreStylesTextKey);
+    ListEntry entry(list);
+    entry.SetString(L"@text", text);
+    entry.SetString(L"@styleName", text);
+    entry.SetId(id);
+}
+
+void AddOverflowEntry(WXmlNode& list, const OvxStringT& name, std::int32_t id)
+{
+    ListEntry entry(list);
+    entry.SetString(L"@text", name);
+    entry.SetString(L"@styleName", name);
+    entry.SetEnabled();
+    entry.SetId(id);
+}
+
+/// Calls `act` with the dialog service and the key of the more-styles dialog of `category`; does nothing for
+/// a category without one.
+template <class Action>
+void ForMoreStylesDialog(IDataContext* dataContext, const PropertyKey& category, const Action& act)
+{
+    IDialogService* dialogs = dataContext == nullptr ? nullptr : dataContext->GetDialogService();
+    if (dialogs == nullptr)
+        return;
+    const std::array<std::pair<PropertyKey, const OvxStringT*>, 4> dialogsByCategory{
+        {{OutlineStyleCategoryName, &kOutlineDialogKey},
+         {FillStyleCategoryName, &kFillDialogKey},
+         {GetParagraphStyleCategoryName(), &kParagraphDialogKey},
+         {GetCharacterStyleCategoryName(), &kCharacterDialogKey}}};
+    for (const auto& [dialogCategory, key] : dialogsByCategory)
+    {
+        if (category == dialogCategory)
+            act(*dialogs, *key);
+    }
+}
+
+} // namespace
 
 WXmlNode BaseStylePropertiesDatasource::GetStyleResourceList()
 {
-    return resourceListNode;
+    WXmlNode list = listDocument.CreateNode(L"placeholderData");
+    resourceListNode = list;
+    newStyleListBuilt = false;
+    visibleLimit = kLongestList;
+
+    const StyleSheet* sheet = FindSheet(StylesCommon::GetActiveStyleSource());
+    Style* target = sheet == nullptr ? nullptr : GetTargetStyle(0);
+    if (target == nullptr)
+        return list;
+
+    const OvxStringT current = ParentNameOf(target, *sheet);
+    const std::vector<OvxStringT> names = OfferedNames(*sheet, GetCategory(), target);
+    AddNoStyleEntry(list, styleName.empty() ? kNoStyleTextKey : kNoParentTextKey, current.empty());
+    AddStyleEntries(list, names, current);
+    return list;
+}
+
+void BaseStylePropertiesDatasource::AddStyleEntries(WXmlNode& list, const std::vector<OvxStringT>& names,
+                                                    const OvxStringT& current)
+{
+    listedStyleCount = static_cast<std::int32_t>(names.size());
+    const bool overflows = listedStyleCount > visibleLimit;
+    if (overflows)
+        visibleLimit = kShownOfMore;
+
+    // Names are shown, kept and compared in their escaped form. Deliberate: a name with an ampersand is never
+    // the current one, and picking it finds no style.
+    std::int32_t id = 1;
+    for (const OvxStringT& name : names)
+    {
+        const OvxStringT escaped = Escaped(name);
+        const bool isCurrent = escaped.Compare(current) == 0;
+        if (id > visibleLimit && !isCurrent)
+            continue;
+        AddStyleEntry(list, escaped, isCurrent, id);
+        ++id;
+    }
+    if (overflows)
+        AddMoreStylesEntry(list, id);
+}
+
+WXmlNode BaseStylePropertiesDatasource::GetNewStyleList()
+{
+    if (newStyleListBuilt)
+        return resourceListNode;
+
+    WXmlNode list = listDocument.CreateNode(L"placeholderData");
+    resourceListNode = list;
+    newStyleListBuilt = true;
+    currentListItem = WXmlNode();
+    if (const StyleSheet* sheet = FindSheet(StylesCommon::GetActiveStyleSource()))
+        AddOverflowEntries(list, *sheet);
+    return list;
+}
+
+// The numbers go on where those of the main list end, so that ids of both are one range.
+void BaseStylePropertiesDatasource::AddOverflowEntries(WXmlNode& list, const StyleSheet& sheet)
+{
+    OvxStringT current;
+    std::int32_t counter = 0;
+    for (const OvxStringT& name : sheet.GetStyleNames(GetCategory()))
+    {
+        if (counter == visibleLimit)
+        {
+            const Style* target = GetTargetStyle(0);
+            if (target == nullptr)
+                return;
+            current = ParentNameOf(target, sheet);
+        }
+        if (name == current)
+            continue;
+        if (counter >= visibleLimit)
+            AddOverflowEntry(list, name, counter);
+        ++counter;
+    }
 }
 
 unsigned BaseStylePropertiesDatasource::GetApplyStyleResource() const
@@ -12,13 +238,53 @@ unsigned BaseStylePropertiesDatasource::GetApplyStyleResource() const
     return 0;
 }
 
-void BaseStylePropertiesDatasource::SetApplyStyleResource(const unsigned& /*id*/)
+void BaseStylePropertiesDatasource::SetApplyStyleResource(const unsigned& id)
 {
+    const StyleSheet* sheet = FindSheet(StylesCommon::GetActiveStyleSource());
+    if (sheet == nullptr)
+        return;
+    const OvxStringT current = ParentNameOf(GetTargetStyle(0), *sheet);
+    const WXmlNode item = resourceListNode.GetNode(
+        WXPath(OvxStringT::Format(L"itemData[@placeholderCommandID='%d']", static_cast<int>(id))));
+    if (!item.IsValid())
+        return;
+    const OvxStringT name = item.Attribute(L"@styleName").GetString();
+    if (name == current)
+        return;
+
+    if (id <= static_cast<unsigned>(visibleLimit))
+    {
+        ApplyStyleResource(name);
+        return;
+    }
+    IDataContext* dataContext = GetDataContext();
+    ForMoreStylesDialog(dataContext, GetCategory(),
+                        [dataContext](IDialogService& dialogs, const OvxStringT& key)
+                        { dialogs.ShowDialog(key, dataContext); });
 }
 
-WXmlNode BaseStylePropertiesDatasource::GetNewStyleList()
+void BaseStylePropertiesDatasource::ApplyStyleResource(const OvxStringT& name)
 {
-    return resourceListNode;
+    IStylesSource* source = StylesCommon::GetActiveStyleSource();
+    const StyleSheet* sheet = FindSheet(source);
+    if (sheet == nullptr)
+        return;
+    Style* target = GetTargetStyle(0);
+    if (name == ParentNameOf(target, *sheet))
+        return;
+    if (name.empty())
+    {
+        SetNoParent(source, target);
+        return;
+    }
+
+    Style* style = sheet->GetStyle(name);
+    if (style == nullptr)
+        return;
+    if (styleName.empty())
+        source->ApplyStyle(style, /*reserved=*/false);
+    else if (target != nullptr)
+        source->SetParent(target, style, /*reserved=*/true);
 }
 
 WXmlNode BaseStylePropertiesDatasource::GetCurrentListStyleItem() const
@@ -26,20 +292,30 @@ WXmlNode BaseStylePropertiesDatasource::GetCurrentListStyleItem() const
     return currentListItem;
 }
 
-void BaseStylePropertiesDatasource::SetCurrentListStyleItem(const WXmlNode& /*item*/)
+void BaseStylePropertiesDatasource::SetCurrentListStyleItem(const WXmlNode& item)
 {
+    currentListItem = item;
+    UpdateListeners(L"BaseStylePropertiesDatasourceOkEnabled");
 }
 
 void BaseStylePropertiesDatasource::OnBaseStylePropertiesDatasourceOk()
 {
+    if (!currentListItem.IsValid())
+        return;
+    ApplyStyleResource(currentListItem.Attribute(L"@styleName").GetString());
+    ForMoreStylesDialog(GetDataContext(), GetCategory(),
+                        [](IDialogService& dialogs, const OvxStringT& key)
+                        { dialogs.CloseDialog(key, kAccepted, 0); });
 }
 
 int BaseStylePropertiesDatasource::GetBaseStylePropertiesDatasourceOkEnabled() const
 {
-    return 0;
+    return currentListItem.IsValid() ? 1 : 0;
 }
 
 WCmnUI_Guid BaseStylePropertiesDatasource::GetPropertyPanelStateIdentifier() const
 {
-    return {};
+    const std::optional<IDataContext*> current = FindCurrentDataContext();
+    const bool isObjectPropertiesPanel = current.has_value() && *current == GetDataContext();
+    return WCmnUI_Guid(isObjectPropertiesPanel ? L"State.ObjectProperties" : L"State.ObjectStyles");
 }

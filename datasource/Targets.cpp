@@ -37,6 +37,13 @@ bool IsCharacterStyle(const Style& style)
            (owner != nullptr && owner->GetCategoryName() == character);
 }
 
+OvxStringT FindSheetName(const Style* style)
+{
+    IStylesSource* source = style == nullptr ? nullptr : StylesCommon::GetActiveStyleSource();
+    const StyleSheet* sheet = source == nullptr ? nullptr : source->GetStyleSheet();
+    return sheet == nullptr ? OvxStringT() : sheet->GetStyleName(style);
+}
+
 } // namespace
 
 void BaseStylePropertiesDatasource::SetTargetStyle(const std::vector<Style*>& styles, bool isDefault,
@@ -58,7 +65,7 @@ void BaseStylePropertiesDatasource::SetTargetStyle(const std::vector<Style*>& st
     sectionTitle = MakeSectionTitle(DisplayNameOf(category));
     styleName = OvxStringT();
     MergeSiblingTargets();
-    styleName = FindStyleNameOfFirstTarget();
+    styleName = FindSheetName(GetFirstTarget());
 
     UpdateListeners(L"SectionTitle");
 }
@@ -115,14 +122,6 @@ void BaseStylePropertiesDatasource::AppendTargetsOf(const BaseStylePropertiesDat
             continue;
         targetStyles.emplace_back(style);
     }
-}
-
-OvxStringT BaseStylePropertiesDatasource::FindStyleNameOfFirstTarget() const
-{
-    const Style* first = GetFirstTarget();
-    IStylesSource* source = first == nullptr ? nullptr : StylesCommon::GetActiveStyleSource();
-    const StyleSheet* sheet = source == nullptr ? nullptr : source->GetStyleSheet();
-    return sheet == nullptr ? OvxStringT() : sheet->GetStyleName(first);
 }
 
 void BaseStylePropertiesDatasource::SetObjectStyles(const std::map<Style*, std::size_t>& newObjectStyles)

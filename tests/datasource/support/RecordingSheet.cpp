@@ -7,7 +7,7 @@ Styles::Style* RecordingSheet::GetStyle(const OvxStringT& name) const
     log.Add(prefix + ".GetStyle(" + Describe(name) + ")");
     for (const Entry& entry : entries)
     {
-        if (entry.name == name)
+        if (entry.name == name && !unresolvedNames.contains(name))
             return entry.style;
     }
     return nullptr;

@@ -3,6 +3,7 @@
 #include "host/style_model/StyleSheet.h"
 #include "tests/datasource/support/CallLog.h"
 
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -30,7 +31,8 @@ public:
     /// Answers `base` with "*" behind it, so that the answer can be told from the question.
     [[nodiscard]] OvxStringT GetUnusedStyleName(const OvxStringT& base) const override;
 
-    std::vector<Entry> entries; ///< In the order of the sheet.
+    std::vector<Entry> entries;           ///< In the order of the sheet.
+    std::set<OvxStringT> unresolvedNames; ///< Listed, but not found.
 
 private:
     CallLog& log;

@@ -98,6 +98,11 @@ void RecordingStylesSource::FillPresetItems(std::vector<PresetListEntry> entries
     {
         names += (names.empty() ? "" : ", ") + std::to_string(entry.position) + ": " + Describe(entry.name);
         names += entry.item == nullptr ? " without an item" : "";
+        if (fillsPresetItems && entry.item != nullptr)
+        {
+            entry.item->SetText(presetText.value_or(entry.name));
+            entry.item->SetIndex(static_cast<int>(entry.position));
+        }
     }
     log.Add("source.FillPresetItems([" + names + "], " + Describe(category) + ")");
 }

@@ -46,6 +46,10 @@ public:
     /// What ApplyToParent asks to be cleared, after it was taken down; nothing is asked while it is not set.
     std::optional<Styles::PropertyPaths> clearedPaths;
 
+    /// Gives preset items their names as texts, or `presetText` where that is set, and their positions.
+    bool fillsPresetItems = false;
+    std::optional<OvxStringT> presetText;
+
 private:
     CallLog& log;
 };
