@@ -62,17 +62,12 @@ ReportValue LookOf(const std::optional<CLR_COLORSPEC::Rgb>& look)
 
 } // namespace
 
-ChangeLedger::ChangeLedger(Session& itsSession) : session(itsSession)
-{
-    for (const std::unique_ptr<Panel>& panel : session.GetPanels())
-        readers.push_back(std::make_unique<Panel>(panel->GetDescription(), context));
-}
-
 void ChangeLedger::Note(const Selection& selection, const Panel& panel)
 {
     if (!(selection.selector == notedSelector))
         notedPanels.clear();
     notedSelector = selection.selector;
+    NeedReaders();
     const std::size_t number = NumberOf(panel);
     if (!notedPanels.insert(number).second)
         return;
@@ -95,6 +90,7 @@ void ChangeLedger::NoteCreated(const OvxStringT& styleName)
     Target& target =
         NeedTarget(Selection{OvxStringViewT(L"sheet:") + styleName, SelectorScope::Sheet, styleName, {}});
     target.isCreated = true;
+    NeedReaders();
     for (std::size_t number = 0; number < readers.size(); ++number)
         target.before.emplace(number, readers[number]->GetDescription().rows.size());
 }
@@ -111,6 +107,14 @@ std::vector<Change> ChangeLedger::Describe()
     for (const Target* target : TargetsInOrder())
         DescribeTarget(*target, changes);
     return changes;
+}
+
+/// Panels may have been loaded since the last time.
+void ChangeLedger::NeedReaders()
+{
+    const auto& panels = session.GetPanels();
+    while (readers.size() < panels.size())
+        readers.push_back(std::make_unique<Panel>(panels[readers.size()]->GetDescription(), context));
 }
 
 std::size_t ChangeLedger::NumberOf(const Panel& panel) const

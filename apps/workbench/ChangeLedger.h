@@ -27,8 +27,8 @@ namespace Workbench
 class ChangeLedger
 {
 public:
-    /// Makes a second data source of each of the session's panels; the session is borrowed.
-    explicit ChangeLedger(Session& itsSession);
+    /// The session is borrowed.
+    explicit ChangeLedger(Session& itsSession) : session(itsSession) {}
 
     /// Remembers what each target of a selection shows in a panel of the session, unless it is known already.
     void Note(const Selection& selection, const Panel& panel);
@@ -64,6 +64,7 @@ private:
         std::map<std::size_t, std::vector<RowFacts>> before; ///< By the number of the panel, in row order.
     };
 
+    void NeedReaders();
     [[nodiscard]] std::size_t NumberOf(const Panel& panel) const;
     [[nodiscard]] Target& NeedTarget(const Selection& single);
     [[nodiscard]] std::vector<RowFacts> ReadRows(std::size_t panel, const Selection& single) const;
@@ -73,7 +74,7 @@ private:
 
     Session& session;
     ReferenceHost::DataContext context{nullptr, nullptr};
-    std::vector<std::unique_ptr<Panel>> readers;      ///< One for each panel of the session, in its order.
+    std::vector<std::unique_ptr<Panel>> readers; ///< A second one of each panel of the session, in its order.
     std::unordered_map<std::wstring, Target> targets; ///< By their selectors.
     std::map<OvxStringT, std::optional<CLR_COLORSPEC::Rgb>> palette;
 

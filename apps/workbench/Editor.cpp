@@ -84,8 +84,9 @@ std::vector<Change> Editor::DescribeChanges()
 void Editor::Save(const std::filesystem::path& target, bool keepBackup, std::vector<std::string>& warnings)
 {
     workings->DemandNoGroup("saving");
-    //TEMP
-    static_cast<void>(target); static_cast<void>(keepBackup); static_cast<void>(warnings);
+    ReferenceHost::SaveOptions options;
+    options.keepBackup = keepBackup;
+    workings->session.GetDrawing().Save(target, options, warnings);
 }
 
 } // namespace Workbench

@@ -84,17 +84,16 @@ TEST_F(ChangesOfAnEditor, StandInTheOrderOfTheDrawingWhateverTheOrderOfEdits)
     open.Select(L"sheet:Accent");
     open.Set(L"fill.color", L"blue");
     open.Select(L"sheet:Base");
-    open.Set(L"fill.type", L"solid");
+    open.Set(L"character.font", L"Serif");
     open.Select(L"defaults");
     open.Set(L"fill.color", L"white");
     editor.DefineColours({{L"Sand", L"#e9c46a"}});
 
     EXPECT_THAT(open.Changes(), ElementsAre("palette:Sand color - -> #e9c46a None",        //
                                             "defaults fill.color #cccccc -> #ffffff None", //
-                                            "sheet:Base fill.type - -> solid None",
+                                            "sheet:Base character.font - -> Serif None",
                                             "sheet:Accent fill.color #00aa00 -> #0000ff Overridden",
                                             "1/1 fill.color #3366cc -> #ff0000 Overridden",
-                                            "1/3 fill.type - -> solid Inherited",
                                             "1/3 fill.color #00aa00 -> #ff0000 Overridden",
                                             "1/3 outline.width 200 -> 100 Overridden"));
 }
@@ -141,7 +140,7 @@ TEST_F(ChangesOfAnEditor, TellNothingOfANewStyleThatIsUndone)
     EXPECT_THAT(open.Changes(), IsEmpty());
 }
 
-TEST_F(ChangesOfAnEditor, TellNothingForATextThatDiffersBeforeWhereItDid)
+TEST_F(ChangesOfAnEditor, TellTheTextOfAnObject)
 {
     open.Select(L"name:D");
 

@@ -1,10 +1,9 @@
 #include "tests/workbench/EditorFixture.h"
 
 #include "apps/workbench/PanelReading.h"
+#include "apps/workbench/RowPlace.h"
 #include "apps/workbench/SelectionSearch.h"
 #include "host/utils/Utf8.h"
-
-#include <stdexcept>
 
 namespace WorkbenchTests
 {
@@ -70,15 +69,26 @@ std::string Describe(const Workbench::Change& change)
 
 OpenEditor::OpenEditor(const FlatDrawing& drawing)
     : folder(Workbench::ReadPanelFolder(SHIPPED_PANELS)),
-      session(scratch.Write("drawing.fodg", drawing.Text()), folder.panels),
-      editor(Start())
+      editor(Start(scratch.Write("drawing.fodg", drawing.Text())))
 {
 }
 
-Workbench::Editor& OpenEditor::Start()
+OpenEditor::OpenEditor(const std::filesystem::path& drawing)
+    : folder(Workbench::ReadPanelFolder(SHIPPED_PANELS)), editor(Start(drawing))
 {
-    EXPECT_THAT(session.LoadPanels(folder.panels), testing::IsEmpty());
-    return made.emplace(session);
+}
+
+Workbench::Editor& OpenEditor::Start(const std::filesystem::path& drawing)
+{
+    Workbench::Session& started = session.emplace(drawing, folder.panels);
+    EXPECT_THAT(started.LoadPanels(folder.panels), testing::IsEmpty());
+    return made.emplace(started);
+}
+
+void OpenEditor::End()
+{
+    made.reset();
+    session.reset();
 }
 
 void OpenEditor::Select(const wchar_t* selector)
@@ -103,15 +113,15 @@ std::string OpenEditor::ValueOf(const wchar_t* row)
 
 std::string OpenEditor::ValueOf(const wchar_t* selector, const wchar_t* row)
 {
-    return Show(ReadRow(session.Select(ParseSelector(selector)), row));
+    return Show(ReadRow(session->Select(ParseSelector(selector)), row));
 }
 
 std::string OpenEditor::Dump()
 {
     std::string dump = DumpOf(L"defaults");
-    for (const OvxStringT& name : session.GetStyles().GetStyleNames())
+    for (const OvxStringT& name : session->GetStyles().GetStyleNames())
         dump += DumpOf((OvxStringViewT(L"sheet:") + name).c_str());
-    for (const Workbench::Selection& single : SplitByObject(session.Select(ParseSelector(L"all"))))
+    for (const Workbench::Selection& single : SplitByObject(session->Select(ParseSelector(L"all"))))
         dump += DumpOf(single.selector.c_str());
     return dump;
 }
@@ -137,25 +147,28 @@ std::string OpenEditor::ErrorOf(const std::function<void()>& work)
     return "no error";
 }
 
+// Reads the names of one row alone: a report of all panels takes long over many objects.
 RowReport OpenEditor::ReadRow(const Workbench::Selection& selection, const OvxStringT& name)
 {
-    const Workbench::Report report = session.Inspect(selection);
-    for (const Workbench::PanelReport& panel : report.panels)
-    {
-        for (const RowReport& row : panel.rows)
-        {
-            if (panel.description->name + OvxStringViewT(L".") + row.description->identifier == name)
-                return row;
-        }
-    }
-    throw std::out_of_range("no such row");
+    session->HandIn(selection);
+    const Workbench::RowPlace place = Workbench::FindRow(session->GetPanels(), name);
+    const IReflectable& names = place.GetBoundNames();
+    const OvxStringT& property = place.row->property;
+    RowReport row;
+    row.description = place.row;
+    row.isAmbiguous = names.Read<int>(property + Workbench::kAmbiguousSuffix) != 0;
+    row.value = Workbench::ToReportValue(names.ReadAny(property)).value();
+    row.state = static_cast<ActivePropertyState>(names.Read<int>(property + Workbench::kStateSuffix));
+    row.origin = Workbench::ParseOrigin(names.Read<OvxStringT>(property + Workbench::kOriginSuffix)).value();
+    row.link = names.Read<OvxStringT>(property + Workbench::kLinkSuffix);
+    return row;
 }
 
 std::string OpenEditor::DumpOf(const wchar_t* selector)
 {
     std::string dump = OvxUtils::ToUtf8(OvxStringT(selector)) + "\n";
     for (const Workbench::PanelReport& panel :
-         session.Inspect(session.Select(ParseSelector(selector))).panels)
+         session->Inspect(session->Select(ParseSelector(selector))).panels)
     {
         for (const RowReport& row : panel.rows)
             dump += "  " + OvxUtils::ToUtf8(row.description->property) + " " + Show(row) + " " +

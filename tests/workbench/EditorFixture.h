@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -35,6 +36,7 @@ class OpenEditor
 {
 public:
     explicit OpenEditor(const FlatDrawing& drawing);
+    explicit OpenEditor(const std::filesystem::path& drawing);
 
     OpenEditor(const OpenEditor&) = delete;
     OpenEditor& operator=(const OpenEditor&) = delete;
@@ -63,16 +65,19 @@ public:
     /// Ends the editor; the session stays.
     void EndEditor() { made.reset(); }
 
-    Workbench::Session& GetSession() noexcept { return session; }
+    /// Ends the session as well: a process has one at a time.
+    void End();
+
+    Workbench::Session& GetSession() { return *session; }
 
 private:
-    Workbench::Editor& Start();
+    Workbench::Editor& Start(const std::filesystem::path& drawing);
     [[nodiscard]] Workbench::RowReport ReadRow(const Workbench::Selection& selection, const OvxStringT& name);
     [[nodiscard]] std::string DumpOf(const wchar_t* selector);
 
     ScratchFolder scratch;
     Workbench::PanelFolder folder;
-    Workbench::Session session;
+    std::optional<Workbench::Session> session;
     std::optional<Workbench::Editor> made;
 
 public:

@@ -242,6 +242,31 @@ TEST(NamedStyles, AreDescribedInTheOrderOfTheSheet)
     EXPECT_FALSE(facts[1].isExternal);
 }
 
+TEST_F(HandingIn, TellsTheStylesThatTargetsInheritFromOnceEach)
+{
+    HandIn(L"all", PanelFor(TargetKind::Objects));
+
+    EXPECT_THAT(handover.ParentsOfTargets(panel), ElementsAre(L"Base"));
+}
+
+TEST_F(HandingIn, TellsNoStylesForTargetsThatInheritFromNone)
+{
+    HandIn(L"sheet:Base", PanelFor(TargetKind::Objects));
+
+    EXPECT_THAT(handover.ParentsOfTargets(panel), IsEmpty());
+}
+
+TEST(CategoryOfANamedStyle, IsStyleForAWholeOne)
+{
+    const OpenedDrawing opened =
+        FlatDrawing().Named("style:name='Base'").Named("style:name='Ink' sp:category='fill'").Page("").Open();
+    const TargetHandover handover(*opened.drawing);
+
+    EXPECT_EQ(handover.CategoryOf(L"Base"), L"style");
+    EXPECT_EQ(handover.CategoryOf(L"Ink"), L"fill");
+    EXPECT_EQ(handover.CategoryOf(L"unknown"), L"");
+}
+
 TEST(HostCategories, AreTheFiveOfEveryDrawing)
 {
     for (const wchar_t* category : {L"style", L"fill", L"outline", L"paragraph", L"character"})
