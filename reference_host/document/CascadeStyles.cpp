@@ -108,6 +108,15 @@ void CascadeStyles::FixRelativeValues()
     }
 }
 
+std::vector<bool> CascadeStyles::FindRelative(const std::set<std::size_t>& rows) const
+{
+    std::vector<bool> found(cascades.size());
+    for (std::size_t number = 0; number < cascades.size(); ++number)
+        found[number] = AnyValue(cascades[number].levels, [&rows](const StyleValue& value)
+                                 { return value.value.IsEmpty() && rows.contains(value.row); });
+    return found;
+}
+
 bool CascadeStyles::RefersToPalette(std::size_t number, const OvxStringT& entry) const
 {
     return AnyValue(cascades[number].levels,

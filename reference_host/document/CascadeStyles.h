@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -66,6 +67,10 @@ public:
     /// Works out the values that are given as a part of an inherited one, so that styles made later do not
     /// depend on what becomes of those that they inherit from.
     void FixRelativeValues();
+
+    /// Tells for each cascade by its number whether a value that is given as a part of an inherited one is at
+    /// one of these rows.
+    [[nodiscard]] std::vector<bool> FindRelative(const std::set<std::size_t>& rows) const;
 
     /// Tells whether a style of the file that belongs to a cascade gives a colour by this palette entry.
     [[nodiscard]] bool RefersToPalette(std::size_t number, const OvxStringT& entry) const;

@@ -3,11 +3,11 @@
 #include "reference_host/document/CascadeStyles.h"
 #include "reference_host/document/Drawing.h"
 #include "reference_host/document/DrawingFile.h"
+#include "reference_host/document/DrawingSettling.h"
 #include "reference_host/document/NamedStyles.h"
 #include "reference_host/document/PropertyCodecs.h"
 #include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
-#include "reference_host/document/TextSettling.h"
 #include "reference_host/history/History.h"
 #include "reference_host/style_model/NamedStyleSheet.h"
 
@@ -29,7 +29,7 @@ struct DrawingData
           table(extensions),
           defaultStyle(MakeWholeStyle(nullptr, table)),
           cascades(table, *defaultStyle),
-          settling(table, cascades),
+          settling(table, cascades, objects),
           history(&settling)
     {
     }
@@ -46,7 +46,7 @@ struct DrawingData
     NamedStyleSheet sheet;
     StyleAppearances appearances;
     CascadeStyles cascades;
-    TextSettling settling;
+    DrawingSettling settling;
     History history; ///< Hears of changes from the time when the file has been read.
     std::vector<DrawingPage> pages;
     std::deque<DrawingObject> objects;

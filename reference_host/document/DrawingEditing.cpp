@@ -39,15 +39,17 @@ void Recolour(Style& style, const OvxStringT& entry, CLR_COLORSPEC::Rgb look)
 }
 
 /// Makes the styles of those that the file gives a colour by a palette entry.
-void MakeStylesReferringTo(const OvxStringT& entry, std::deque<DrawingObject>& objects)
+void MakeStylesReferringTo(const OvxStringT& entry, DrawingData& data)
 {
-    const auto make = [&entry](auto& user)
+    const auto make = [&](auto& user)
     {
-        if (user.IsReadWithPaletteColour(entry))
+        if (data.cascades.RefersToPalette(user.GetCascade(), entry))
             static_cast<void>(user.GetStyle());
     };
-    for (DrawingObject& object : objects)
+    for (DrawingObject& object : data.objects)
     {
+        if (object.IsGroup())
+            continue;
         make(object);
         std::ranges::for_each(object.GetParagraphs(), make);
         std::ranges::for_each(object.GetRuns(), make);
@@ -93,7 +95,7 @@ bool Drawing::DefinePaletteColour(const OvxStringT& name, CLR_COLORSPEC::Rgb loo
 
     const History::Step step(data->history, StepName(L"history.palette"));
     data->history.Perform(std::make_unique<PaletteChange>(data->palette, PaletteEntry{name, look}));
-    MakeStylesReferringTo(name, data->objects);
+    MakeStylesReferringTo(name, *data);
     for (const StyleUser& user : data->cascades.GetUsers())
         Recolour(user.unit == nullptr ? *user.object->GetStyle() : *user.unit->GetStyle(), name, look);
     for (const OvxStringT& styleName : data->sheet.GetNames())

@@ -28,9 +28,4 @@ Styles::Style* DrawingObject::GetStyle()
     return style.get();
 }
 
-bool DrawingObject::IsReadWithPaletteColour(const OvxStringT& entry) const
-{
-    return styles != nullptr && styles->RefersToPalette(cascade, entry);
-}
-
 } // namespace ReferenceHost

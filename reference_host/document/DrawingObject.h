@@ -55,8 +55,9 @@ public:
     /// The whole style, owned by the object and made when it is first asked for; null for a group.
     [[nodiscard]] Styles::Style* GetStyle();
 
-    /// Tells whether the file gives the object a colour by this palette entry, apart from its named style.
-    [[nodiscard]] bool IsReadWithPaletteColour(const OvxStringT& entry) const;
+    /// Which styles of the file make up the object's style: a number of CascadeStyles; without meaning for a
+    /// group.
+    [[nodiscard]] std::size_t GetCascade() const noexcept { return cascade; }
 
     /// The same where it was asked for already; null where it was not, so that it is as the file says.
     [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }

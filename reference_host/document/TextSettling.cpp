@@ -2,7 +2,6 @@
 
 #include "reference_host/document/DrawingObject.h"
 #include "reference_host/document/TextUnit.h"
-#include "reference_host/history/StepChanges.h"
 
 #include <algorithm>
 #include <set>
@@ -235,11 +234,6 @@ private:
 TextSettling::TextSettling(const PropertyMappings& properties, CascadeStyles& cascadeStyles)
     : table(properties), cascades(cascadeStyles)
 {
-}
-
-void TextSettling::PrepareForChanges()
-{
-    cascades.FixRelativeValues();
 }
 
 void TextSettling::Settle(const StepChanges& changes)

@@ -2,7 +2,7 @@
 
 #include "reference_host/document/CascadeStyles.h"
 #include "reference_host/document/PropertyMappings.h"
-#include "reference_host/history/IHistoryDocument.h"
+#include "reference_host/history/StepChanges.h"
 
 namespace ReferenceHost
 {
@@ -20,14 +20,14 @@ namespace ReferenceHost
 ///    parents of the substyles that concern text.
 /// 3. A property that was cleared in a run or paragraph is cleared on the levels outside it too, or it would
 ///    still be in force. The other paragraphs and runs keep what they had.
-class TextSettling final : public IHistoryDocument
+class TextSettling
 {
 public:
     /// Borrows both.
     TextSettling(const PropertyMappings& properties, CascadeStyles& cascadeStyles);
 
-    void PrepareForChanges() override;
-    void Settle(const StepChanges& changes) override;
+    /// Changes what depends on `changes`, and adds to them.
+    void Settle(const StepChanges& changes);
 
 private:
     const PropertyMappings& table;

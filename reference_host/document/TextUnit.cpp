@@ -18,9 +18,4 @@ Styles::Style* TextUnit::GetStyle()
     return style.get();
 }
 
-bool TextUnit::IsReadWithPaletteColour(const OvxStringT& entry) const
-{
-    return styles->RefersToPalette(cascade, entry);
-}
-
 } // namespace ReferenceHost

@@ -2,7 +2,6 @@
 
 #include "host/Export.h"
 #include "host/style_model/Style.h"
-#include "host/utils/OvxStringT.h"
 
 #include <cstddef>
 #include <memory>
@@ -44,8 +43,8 @@ public:
     /// The unit's whole style, owned by the unit and made when it is first asked for; never null.
     [[nodiscard]] Styles::Style* GetStyle();
 
-    /// Tells whether the file gives the unit a colour by this palette entry, apart from the named style.
-    [[nodiscard]] bool IsReadWithPaletteColour(const OvxStringT& entry) const;
+    /// Which styles of the file make up the unit's style: a number of CascadeStyles.
+    [[nodiscard]] std::size_t GetCascade() const noexcept { return cascade; }
 
     /// The same where it was asked for already; null where it was not, so that it is as the file says.
     [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }

@@ -225,6 +225,26 @@ TEST_F(DrawingEditing, LeavesStylesThatAreMadeLaterAsTheFileHasThem)
     EXPECT_EQ(OwnOf(opened.Object(L"1/1")->GetRuns()[0].GetStyle(), "character.size"), "100");
 }
 
+TEST_F(DrawingEditing, SavesAPartOfAnInheritedValueAsItWasWhenThatChanges)
+{
+    opened.Named(L"Small")->SetPathProperty({Key(L"character"), Key(L"size")}, OvxUtils::Any(400));
+    ASSERT_TRUE(history.CanUndo());
+    std::vector<std::string> warnings;
+
+    const OpenedDrawing reopened = OpenText(drawing.Serialise(warnings));
+
+    EXPECT_THAT(DumpOf(*reopened.drawing), testing::ElementsAreArray(Dump()));
+}
+
+TEST_F(DrawingEditing, SavesAPartOfAnInheritedValueAsItIsWhenAnotherChanges)
+{
+    std::vector<std::string> warnings;
+    opened.Named(L"Small")->SetPathProperty({Key(L"fill"), Key(L"transparency")}, OvxUtils::Any(30));
+    ASSERT_TRUE(history.CanUndo());
+
+    EXPECT_NE(drawing.Serialise(warnings).find("fo:font-size='50%'"), std::string::npos);
+}
+
 TEST_F(DrawingEditing, HearsNothingWhileStylesAreMade)
 {
     static_cast<void>(Dump());
