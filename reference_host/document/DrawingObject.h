@@ -55,12 +55,12 @@ public:
     /// The whole style, owned by the object and made when it is first asked for; null for a group.
     [[nodiscard]] Styles::Style* GetStyle();
 
+    /// The same where it was asked for already; null where it was not, so that it is as the file says.
+    [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }
+
     /// Which styles of the file make up the object's style: a number of CascadeStyles; without meaning for a
     /// group.
     [[nodiscard]] std::size_t GetCascade() const noexcept { return cascade; }
-
-    /// The same where it was asked for already; null where it was not, so that it is as the file says.
-    [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }
 
     /// Where the start tag of the element stands in the XML text of the pages.
     [[nodiscard]] std::size_t GetPlace() const noexcept { return place; }

@@ -43,11 +43,11 @@ public:
     /// The unit's whole style, owned by the unit and made when it is first asked for; never null.
     [[nodiscard]] Styles::Style* GetStyle();
 
-    /// Which styles of the file make up the unit's style: a number of CascadeStyles.
-    [[nodiscard]] std::size_t GetCascade() const noexcept { return cascade; }
-
     /// The same where it was asked for already; null where it was not, so that it is as the file says.
     [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }
+
+    /// Which styles of the file make up the unit's style: a number of CascadeStyles.
+    [[nodiscard]] std::size_t GetCascade() const noexcept { return cascade; }
 
 private:
     DrawingObject* object;
