@@ -64,22 +64,20 @@ void AutomaticStyleEdits::Change(const StyleReference& reference, StyleWish wish
 
 void AutomaticStyleEdits::AddUnderNamed(const StyleReference& reference, const StyleWish& wish)
 {
-    const std::string current = reference.record == nullptr ? std::string() : reference.record->name;
-    const std::string parent = wish.parent.value_or(current);
-    PropertyValues values = wish.changes;
-    std::erase_if(values, [](const auto& entry) { return entry.second.IsEmpty(); });
-    Refer(reference, AddStyle(reference.family, parent, values));
+    StyleWish whole = wish;
+    if (!whole.parent)
+        whole.parent = reference.record == nullptr ? std::string() : reference.record->name;
+    Refer(reference, AddStyle(reference.family, std::move(whole)));
 }
 
-std::string AutomaticStyleEdits::AddStyle(StyleFamily family, const std::string& parent,
-                                          const PropertyValues& values)
+std::string AutomaticStyleEdits::AddStyle(StyleFamily family, StyleWish wish)
 {
-    const auto same = std::ranges::find_if(
-        added, [&](const Added& each)
-        { return each.family == family && each.parent == parent && each.values == values; });
+    std::erase_if(wish.changes, [](const auto& entry) { return entry.second.IsEmpty(); });
+    const auto same = std::ranges::find_if(added, [&](const Added& each)
+                                           { return each.family == family && each.wish == wish; });
     if (same != added.end())
         return same->name;
-    added.push_back({family, parent, family == StyleFamily::Graphic, values, UnusedName(family)});
+    added.push_back({family, std::move(wish), UnusedName(family)});
     return added.back().name;
 }
 
@@ -126,6 +124,7 @@ void AutomaticStyleEdits::EditStyle(pugi::xml_node element, const StyleRecord& r
     std::vector<AttributeEdit> attributes;
     if (wish.parent)
         SetShapeParent(attributes, *wish.parent);
+    AddOwnAttributes(attributes, wish);
     for (AttributeEdit& attribute : attributes)
         edits.SetAttribute(element, std::move(attribute));
     writer.EditProperties(element, wish.changes, "style \"" + record.name + "\"", edits);
@@ -149,12 +148,14 @@ void AutomaticStyleEdits::WriteAdded()
         std::vector<AttributeEdit> attributes{
             {Odf::kStyle, "name", each.name},
             {Odf::kStyle, "family", std::string(NamesOf(each.family).family)}};
-        if (each.hasParentAttribute)
-            SetShapeParent(attributes, each.parent);
-        else if (!each.parent.empty())
-            attributes.push_back({Odf::kStyle, "parent-style-name", each.parent});
+        const std::string parent = each.wish.parent.value_or(std::string());
+        if (each.family == StyleFamily::Graphic)
+            SetShapeParent(attributes, parent);
+        else if (!parent.empty())
+            attributes.push_back({Odf::kStyle, "parent-style-name", parent});
+        AddOwnAttributes(attributes, each.wish);
         std::string xml =
-            writer.WriteStyle(scope, "style", attributes, each.values, "style \"" + each.name + "\"");
+            writer.WriteStyle(scope, "style", attributes, each.wish.changes, "style \"" + each.name + "\"");
         if (container.empty())
             all += xml;
         else

@@ -41,10 +41,8 @@ public:
     /// A place shall have another style than it names now. Once for each place.
     void Change(const StyleReference& reference, StyleWish wish);
 
-    /// The name of a new automatic style; equal ones are made once. `parent` is the encoded name of a named
-    /// style, or empty.
-    [[nodiscard]] std::string AddStyle(StyleFamily family, const std::string& parent,
-                                       const PropertyValues& values);
+    /// The name of a new automatic style; equal ones are made once. What the wish wants gone it does not get.
+    [[nodiscard]] std::string AddStyle(StyleFamily family, StyleWish wish);
 
     /// Makes the edits. Once, after all else.
     void Finish();
@@ -60,9 +58,7 @@ private:
     struct Added
     {
         StyleFamily family;
-        std::string parent;
-        bool hasParentAttribute; ///< For shapes: no parent is said, too.
-        PropertyValues values;
+        StyleWish wish;
         std::string name;
     };
 

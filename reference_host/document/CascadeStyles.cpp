@@ -1,5 +1,6 @@
 #include "reference_host/document/CascadeStyles.h"
 
+#include "reference_host/document/StyleParents.h"
 #include "reference_host/style_model/StyleData.h"
 #include "reference_host/style_model/StyleHosting.h"
 
@@ -32,6 +33,19 @@ bool AnyValue(const std::vector<const StyleRecord*>& levels, const Predicate& ma
 {
     return std::ranges::any_of(levels, [&matches](const StyleRecord* level)
                                { return std::ranges::any_of(level->values, matches); });
+}
+
+/// Clears the parents of substyles that do not concern text.
+void ForgetParentsOfGraphics(Styles::Style& style, const PropertyMappings& table)
+{
+    for (const Styles::PropertyKey& category : table.GetCategories())
+    {
+        const bool concernsText = std::ranges::any_of(
+            table.GetRows(), [&](const PropertyMapping& row)
+            { return row.category == category && row.element != PropertyElement::Graphic; });
+        if (!concernsText)
+            style.GetSubstyle(category, false)->SetParent(nullptr);
+    }
 }
 
 } // namespace
@@ -129,7 +143,12 @@ std::unique_ptr<Styles::Style> CascadeStyles::Build(const Cascade& cascade) cons
     SetDefaultStyle(*style, &defaults);
     OwnValues values(table, cascade.scope);
     for (const StyleRecord* const level : cascade.levels)
+    {
+        SetSubstyleParents(*style, *level);
         values.Add(*level);
+    }
+    if (cascade.scope == OwnValues::Scope::Text)
+        ForgetParentsOfGraphics(*style, table);
     // A percentage of nothing was reported with the style that it stands in, if nothing at all can be
     // inherited there.
     values.WriteTo(*style);

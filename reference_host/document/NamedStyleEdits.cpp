@@ -2,6 +2,7 @@
 
 #include "reference_host/document/OdfNamespaces.h"
 #include "reference_host/document/StyleNames.h"
+#include "reference_host/document/SubstyleInheritance.h"
 #include "reference_host/document/XmlPrefixes.h"
 
 #include "host/style_model/CategoryNames.h"
@@ -100,7 +101,7 @@ void NamedStyleEdits::WriteDefault()
     std::vector<const StyleRecord*> levels;
     if (data.defaultRecord)
         levels.push_back(&*data.defaultRecord);
-    const auto before = EvaluateRecords(context, Styles::PropertyKey::Empty, nullptr, false, levels);
+    const auto before = EvaluateRecords(context, Styles::PropertyKey::Empty, nullptr, false, levels, nullptr);
     const PropertyValues changes =
         ChangesBetween(OwnValuesOf(*before, data.table), OwnValuesOf(*data.defaultStyle, data.table));
     if (changes.empty())
@@ -132,15 +133,19 @@ void NamedStyleEdits::WriteKnown(const StyleRecord& record)
     Styles::Style* const parentInFile = record.parent == nullptr ? nullptr : record.parent->style;
     if (style.GetParent() != parentInFile)
         AddParent(style, attributes);
-    for (AttributeEdit& attribute : attributes)
-        part.GetEdits().SetAttribute(element, std::move(attribute));
 
     const StyleRecord* const level = &record;
-    const auto before = EvaluateRecords(context, OwnCategoryOf(style), style.GetParent(), true, {&level, 1});
+    const auto before =
+        EvaluateRecords(context, OwnCategoryOf(style), style.GetParent(), true, {&level, 1}, &style);
     const PropertyMappings& table = context.data.table;
-    const PropertyValues changes = ChangesBetween(OwnValuesOf(*before, table), OwnValuesOf(style, table));
-    if (!changes.empty())
-        writer.EditProperties(element, changes, Quoted(context.data.sheet.GetStyleName(&style)),
+    const PropertyValues own = OwnValuesOf(style, table);
+    StyleWish wish{ChangesBetween(OwnValuesOf(*before, table), own)};
+    AddSubstyleInheritance(context, *this, style, &record, own, wish);
+    AddOwnAttributes(attributes, wish);
+    for (AttributeEdit& attribute : attributes)
+        part.GetEdits().SetAttribute(element, std::move(attribute));
+    if (!wish.changes.empty())
+        writer.EditProperties(element, wish.changes, Quoted(context.data.sheet.GetStyleName(&style)),
                               part.GetEdits());
 }
 
@@ -190,11 +195,13 @@ void NamedStyleEdits::WriteNew(const OvxStringT& name, Styles::Style& style)
         attributes.push_back({OwnMarkup::kNamespace, std::string(OwnMarkup::kCategory),
                               OvxUtils::ToUtf8(category.GetString())});
     AddParent(style, attributes);
+    const PropertyValues own = OwnValuesOf(style, context.data.table);
+    StyleWish wish{own};
+    AddSubstyleInheritance(context, *this, style, nullptr, own, wish);
+    AddOwnAttributes(attributes, wish);
     const pugi::xml_node container = part.FindContainer("styles");
     const pugi::xml_node scope = container.empty() ? part.GetSource().GetRoot() : container;
-    Append(
-        writer.WriteStyle(scope, "style", attributes, OwnValuesOf(style, context.data.table), Quoted(name)),
-        container);
+    Append(writer.WriteStyle(scope, "style", attributes, wish.changes, Quoted(name)), container);
 }
 
 void NamedStyleEdits::Append(std::string xml, pugi::xml_node container)

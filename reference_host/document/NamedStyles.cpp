@@ -71,6 +71,7 @@ void NamedStyleBuilder::Build(StyleCatalogue& catalogue)
         if (record.family == StyleFamily::Graphic && record.origin == StyleOrigin::Named)
             AddToSheet(record);
     }
+    LinkSubstyleParents(catalogue, warnings);
     for (const StyleRecord* const record : parentsFirst)
         Complete(*record);
 }
@@ -110,6 +111,7 @@ void NamedStyleBuilder::Complete(const StyleRecord& record)
         return;
     if (record.parent != nullptr)
         record.style->SetParent(record.parent->style);
+    SetSubstyleParents(*record.style, record);
     WriteValues(*record.style, record, table, warnings);
 }
 

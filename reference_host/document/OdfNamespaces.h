@@ -33,6 +33,15 @@ inline constexpr std::string_view kCategory = "category";
 /// automatic style of a shape: the shape has no parent, where it would otherwise take "standard".
 inline constexpr std::string_view kParent = "parent-style-name";
 
+/// Behind the text of a category, on the style:style of a shape or a whole style: the encoded name of the
+/// named style of that category that the substyle inherits from ("fill-parent-style-name"). What the substyle
+/// inherits so stands in the style as well, for other programs.
+inline constexpr std::string_view kSubstyleParentSuffix = "-parent-style-name";
+
+/// On style:style, beside those: which of the values that stand in the style are inherited so and not the
+/// style's own, as "fill.color fill.type".
+inline constexpr std::string_view kInheritedValues = "inherited-values";
+
 /// Behind the local name of a colour attribute, the attribute that names the palette entry of the colour:
 /// "fill-color" and "fill-color-resource".
 inline constexpr std::string_view kResourceSuffix = "-resource";

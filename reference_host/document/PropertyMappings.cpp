@@ -225,6 +225,11 @@ std::optional<PropertyElement> FindPropertyElement(std::string_view localName)
     return static_cast<PropertyElement>(found - kElementNames.begin());
 }
 
+std::string NameOfProperty(const PropertyMapping& row)
+{
+    return OvxUtils::ToUtf8(row.category.GetString()) + "." + OvxUtils::ToUtf8(row.key.GetString());
+}
+
 PropertyMappings::PropertyMappings(const std::vector<PropertyMapping>& extensions) : rows(BuiltInProperties())
 {
     rows.insert(rows.end(), extensions.begin(), extensions.end());

@@ -5,6 +5,7 @@
 #include "host/style_model/PropertyKey.h"
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -17,6 +18,9 @@ namespace ReferenceHost
 
 /// The local name of the element that `element` stands for: "graphic-properties", ...
 [[nodiscard]] std::string_view ElementName(PropertyElement element);
+
+/// How files and warnings name a property: "fill.color".
+[[nodiscard]] std::string NameOfProperty(const PropertyMapping& row);
 
 /// All rows that one drawing is read by: the built-in ones and those that panels brought along.
 class PropertyMappings

@@ -47,7 +47,8 @@ PropertyValues ChangesBetween(const PropertyValues& before, const PropertyValues
 
 std::unique_ptr<Styles::Style> EvaluateRecords(const SavingContext& context,
                                                const Styles::PropertyKey& category, Styles::Style* parent,
-                                               bool fallsBack, std::span<const StyleRecord* const> levels)
+                                               bool fallsBack, std::span<const StyleRecord* const> levels,
+                                               const Styles::Style* like)
 {
     const bool isWhole = category == Styles::PropertyKey::Empty;
     std::unique_ptr<Styles::Style> style = isWhole ? MakeWholeStyle(parent, context.data.table)
@@ -55,16 +56,17 @@ std::unique_ptr<Styles::Style> EvaluateRecords(const SavingContext& context,
     Styles::Style& defaults = *context.data.defaultStyle;
     if (fallsBack)
         SetDefaultStyle(*style, isWhole ? &defaults : defaults.GetSubstyle(category, false));
+    for (const Styles::PropertyKey& key : context.data.table.GetCategories())
+    {
+        const Styles::Style* const part = like == nullptr ? nullptr : like->GetSubstyle(key, false);
+        if (part != nullptr && isWhole)
+            style->GetSubstyle(key, false)->SetParent(part->GetParent());
+    }
     OwnValues values(context.data.table, OwnValues::Scope::All);
     for (const StyleRecord* const level : levels)
         values.Add(*level);
     values.WriteTo(*style);
     return style;
-}
-
-std::string NameOfRow(const PropertyMapping& row)
-{
-    return OvxUtils::ToUtf8(row.category.GetString()) + "." + OvxUtils::ToUtf8(row.key.GetString());
 }
 
 } // namespace ReferenceHost

@@ -24,12 +24,15 @@ using PropertyValues = std::map<std::size_t, OvxUtils::Any>;
 /// What a style of the file shall say that it does not say now.
 struct StyleWish
 {
-    PropertyValues changes;
+    PropertyValues changes = {};
 
     /// The encoded name of another parent, empty for none; without a value the parent stays.
-    std::optional<std::string> parent;
+    std::optional<std::string> parent = {};
 
-    [[nodiscard]] bool IsEmpty() const { return changes.empty() && !parent; }
+    /// Attributes of this host's own, by their local names; an empty value for one that goes.
+    std::map<std::string, std::string> ownAttributes = {};
+
+    [[nodiscard]] bool IsEmpty() const { return changes.empty() && !parent && ownAttributes.empty(); }
 
     friend bool operator==(const StyleWish&, const StyleWish&) = default;
 };
@@ -48,13 +51,10 @@ struct SavingContext
 [[nodiscard]] PropertyValues ChangesBetween(const PropertyValues& before, const PropertyValues& after);
 
 /// The style that the file as it is gives under `parent`: what `levels` set, nearest first, without a place
-/// in the drawing. A property of one category gives a style of that category, the empty key a whole one.
-[[nodiscard]] std::unique_ptr<Styles::Style> EvaluateRecords(const SavingContext& context,
-                                                             const Styles::PropertyKey& category,
-                                                             Styles::Style* parent, bool fallsBack,
-                                                             std::span<const StyleRecord* const> levels);
-
-/// How warnings name a property: "fill.color".
-[[nodiscard]] std::string NameOfRow(const PropertyMapping& row);
+/// in the drawing. A category gives a style of that category, the empty key a whole one, whose substyles
+/// inherit from where those of `like` do; `like` may be null.
+[[nodiscard]] std::unique_ptr<Styles::Style>
+EvaluateRecords(const SavingContext& context, const Styles::PropertyKey& category, Styles::Style* parent,
+                bool fallsBack, std::span<const StyleRecord* const> levels, const Styles::Style* like);
 
 } // namespace ReferenceHost

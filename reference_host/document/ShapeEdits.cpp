@@ -2,6 +2,7 @@
 
 #include "reference_host/document/OdfNamespaces.h"
 #include "reference_host/document/StyleParents.h"
+#include "reference_host/document/SubstyleInheritance.h"
 #include "reference_host/document/TextLayout.h"
 #include "reference_host/document/XmlPrefixes.h"
 
@@ -22,6 +23,23 @@ bool WasAskedFor(DrawingObject& object)
     const auto isMade = [](const TextUnit& unit) { return unit.FindStyle() != nullptr; };
     return object.FindStyle() != nullptr || std::ranges::any_of(object.GetParagraphs(), isMade) ||
            std::ranges::any_of(object.GetRuns(), isMade);
+}
+
+/// Makes the styles that may differ from what the file gives although nobody asked for them, because they
+/// inherit from styles that changed.
+void MakeDependent(DrawingObject& object, const StyleRecord* record)
+{
+    const bool repeatsValues =
+        record != nullptr && record->origin == StyleOrigin::Automatic && !record->substyleParents.empty();
+    if (repeatsValues || object.IsReadRelatively())
+        static_cast<void>(object.GetStyle());
+    const auto make = [](TextUnit& unit)
+    {
+        if (unit.IsReadRelatively())
+            static_cast<void>(unit.GetStyle());
+    };
+    std::ranges::for_each(object.GetParagraphs(), make);
+    std::ranges::for_each(object.GetRuns(), make);
 }
 
 /// Fills in what leaves shall have: what the unit has, or what the file gives for one never asked for.
@@ -100,10 +118,13 @@ ShapeEdits::ShapeEdits(const SavingContext& savingContext, SavedPart& contentPar
 
 void ShapeEdits::Write(DrawingObject& object)
 {
-    if (object.IsGroup() || !WasAskedFor(object))
+    if (object.IsGroup())
         return;
     const pugi::xml_node element = content.FindElement(object.GetPlace());
-    WriteShape(object, element, ReferTo(element, Odf::kDraw, "style-name", StyleFamily::Graphic));
+    const StyleReference reference = ReferTo(element, Odf::kDraw, "style-name", StyleFamily::Graphic);
+    MakeDependent(object, reference.record);
+    if (WasAskedFor(object))
+        WriteShape(object, element, reference);
 }
 
 StyleReference ShapeEdits::ReferTo(pugi::xml_node element, std::string_view uri, std::string_view local,
@@ -121,7 +142,7 @@ void ShapeEdits::WriteShape(DrawingObject& object, pugi::xml_node element, const
     Styles::Style* const parent = style != nullptr
                                       ? style->GetParent()
                                       : FindShapeParent(context.data.catalogue, reference.record).style;
-    const auto inherited = EvaluateRecords(context, Styles::PropertyKey::Empty, parent, true, {});
+    const auto inherited = EvaluateRecords(context, Styles::PropertyKey::Empty, parent, true, {}, style);
     TextLevels levels(context, *inherited);
     levels.AddLevel(reference, TextLevel::kOutermost);
     const StyleReference text = ReferTo(element, Odf::kDraw, "text-style-name", StyleFamily::Paragraph);
@@ -151,7 +172,15 @@ void ShapeEdits::WriteShape(DrawingObject& object, pugi::xml_node element, const
         concerns.push_back({PropertyElement::Text, &layout.GetRuns()});
     }
     Settle(levels, concerns, own ? &*own : nullptr, table);
-    WriteLevels(levels, FindOtherParent(object, reference));
+    StyleWish ofShape{{}, FindOtherParent(object, reference)};
+    TextLevel& graphic = levels.GetLevels().front();
+    if (style != nullptr)
+    {
+        ofShape.changes = std::move(graphic.changes);
+        AddSubstyleInheritance(context, named, *style, graphic.automatic, *own, ofShape);
+        graphic.changes = std::exchange(ofShape.changes, {});
+    }
+    WriteLevels(levels, ofShape);
     for (std::size_t run = 0; run < layout.GetRuns().size(); ++run)
         Wrap(layout.GetRuns()[run], layout.GetContents()[run]);
 }
@@ -170,12 +199,13 @@ std::optional<std::string> ShapeEdits::FindOtherParent(const DrawingObject& obje
     return name;
 }
 
-void ShapeEdits::WriteLevels(TextLevels& levels, const std::optional<std::string>& parent)
+void ShapeEdits::WriteLevels(TextLevels& levels, const StyleWish& ofShape)
 {
     for (std::size_t place = 0; place < levels.GetLevels().size(); ++place)
     {
         TextLevel& level = levels.GetLevels()[place];
-        StyleWish wish{std::move(level.changes), place == 0 ? parent : std::nullopt};
+        StyleWish wish = place == 0 ? ofShape : StyleWish();
+        wish.changes = std::move(level.changes);
         if (wish.IsEmpty())
             continue;
         // A shape's first automatic style names the parent that the shape has had without it.
@@ -193,7 +223,7 @@ void ShapeEdits::Wrap(const TextLeaf& leaf, const std::vector<pugi::xml_node>& c
     if (leaf.wrapped.empty())
         return;
     const XmlSource& source = content.GetSource();
-    const std::string style = automatic.AddStyle(StyleFamily::Text, {}, leaf.wrapped);
+    const std::string style = automatic.AddStyle(StyleFamily::Text, {leaf.wrapped});
     const XmlName span{Odf::kText, "span"};
     for (std::size_t first = 0; first < contents.size();)
     {

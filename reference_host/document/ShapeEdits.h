@@ -33,7 +33,7 @@ private:
     void WriteShape(DrawingObject& object, pugi::xml_node element, const StyleReference& reference);
     [[nodiscard]] std::optional<std::string> FindOtherParent(const DrawingObject& object,
                                                              const StyleReference& reference);
-    void WriteLevels(TextLevels& levels, const std::optional<std::string>& parent);
+    void WriteLevels(TextLevels& levels, const StyleWish& ofShape);
     void Wrap(const TextLeaf& leaf, const std::vector<pugi::xml_node>& contents);
 
     const SavingContext& context;

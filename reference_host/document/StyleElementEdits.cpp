@@ -71,6 +71,13 @@ pugi::xml_node FirstChildElement(pugi::xml_node element)
 
 } // namespace
 
+void AddOwnAttributes(std::vector<AttributeEdit>& attributes, const StyleWish& wish)
+{
+    for (const auto& [local, value] : wish.ownAttributes)
+        attributes.push_back(
+            {OwnMarkup::kNamespace, local, value.empty() ? std::nullopt : std::optional(value)});
+}
+
 StyleElementEdits::StyleElementEdits(const SavingContext& savingContext, const XmlSource& xmlSource,
                                      const DeclaredNames& declaredNames)
     : context(savingContext), source(xmlSource), names(declaredNames)
@@ -153,7 +160,7 @@ void StyleElementEdits::ExpandChange(const PropertyNodes& nodes, std::size_t fir
     }
     if (!written && !value.IsEmpty())
     {
-        return context.warnings.Add(name + ": its " + NameOfRow(rows[firstRow]) +
+        return context.warnings.Add(name + ": its " + NameOfProperty(rows[firstRow]) +
                                     " has no form in drawings; it was not saved");
     }
     for (std::size_t place = 0; place < rows.size(); ++place)
@@ -211,7 +218,7 @@ void StyleElementEdits::ExpandColour(const PropertyMapping& row, const PropertyN
         if (found != palette.end() && found->look == colour->ToRgb())
             entry = OvxUtils::ToUtf8(found->name);
         else
-            context.warnings.Add(name + ": its " + NameOfRow(row) + " refers to \"" +
+            context.warnings.Add(name + ": its " + NameOfProperty(row) + " refers to \"" +
                                  OvxUtils::ToUtf8(colour->GetResourceName()) +
                                  "\", which the palette does not hold with this look; the colour was saved");
     }

@@ -16,6 +16,9 @@
 namespace ReferenceHost
 {
 
+/// Adds the attributes of this host's own that a wish is about.
+void AddOwnAttributes(std::vector<AttributeEdit>& attributes, const StyleWish& wish);
+
 /// Writes wishes into the elements of styles, or new elements for them.
 class StyleElementEdits
 {

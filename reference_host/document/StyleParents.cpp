@@ -1,5 +1,7 @@
 #include "reference_host/document/StyleParents.h"
 
+#include "host/utils/Utf8.h"
+
 #include <algorithm>
 #include <unordered_map>
 
@@ -77,6 +79,35 @@ private:
 };
 
 } // namespace
+
+void LinkSubstyleParents(StyleCatalogue& catalogue, Warnings& warnings)
+{
+    for (StyleRecord& record : catalogue.GetRecords())
+    {
+        for (SubstyleParent& parent : record.substyleParents)
+        {
+            const StyleRecord* const named = catalogue.FindNamed(StyleFamily::Graphic, parent.name);
+            if (named != nullptr && named->ownCategory == parent.category)
+                parent.style = named->style;
+            if (parent.style == nullptr)
+                warnings.AddAbout(record, "its " + parent.category + " has the parent \"" +
+                                              ReadableName(parent.name) +
+                                              "\", which does not exist; it was dropped");
+        }
+    }
+}
+
+void SetSubstyleParents(Styles::Style& style, const StyleRecord& record)
+{
+    for (const SubstyleParent& parent : record.substyleParents)
+    {
+        const Styles::PropertyKey category(
+            Styles::PooledString<Styles::StringPool>(OvxUtils::FromUtf8(parent.category)));
+        Styles::Style* const substyle = style.GetSubstyle(category, false);
+        if (substyle != nullptr && parent.style != nullptr)
+            substyle->SetParent(parent.style);
+    }
+}
 
 ShapeParent FindShapeParent(StyleCatalogue& catalogue, const StyleRecord* record)
 {

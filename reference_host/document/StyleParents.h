@@ -19,6 +19,13 @@ namespace ReferenceHost
 /// file.
 std::vector<StyleRecord*> LinkParents(StyleCatalogue& catalogue, Warnings& warnings);
 
+/// Finds the named styles of one category that substyles inherit from, for all graphic styles of the file.
+/// One that does not exist is reported and dropped. After the named styles were made.
+void LinkSubstyleParents(StyleCatalogue& catalogue, Warnings& warnings);
+
+/// Gives the substyles of a whole style the parents that a style of the file says.
+void SetSubstyleParents(Styles::Style& style, const StyleRecord& record);
+
 /// The named style that a shape inherits from.
 struct ShapeParent
 {

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <utility>
 
 namespace ReferenceHost
@@ -146,12 +147,43 @@ void StyleReader::ReadStyle(pugi::xml_node element, std::string_view text, XmlNa
     record.hasNoParent = record.parentName.empty() && record.ownParentName.empty() &&
                          names.HasAttribute(element, {OwnMarkup::kNamespace, OwnMarkup::kParent});
     ReadProperties(element, names, record);
+    ReadSubstyleParents(element, names, record);
     // Programs repeat styles word for word; only a difference is worth a report.
     const StyleRecord* const earlier = catalogue.FindSame(record);
     if (earlier == nullptr)
         catalogue.Add(std::move(record));
     else if (earlier->parentName != record.parentName || earlier->values != record.values)
         warnings.AddAbout(record, "it is there twice; the first one counts");
+}
+
+void StyleReader::ReadSubstyleParents(pugi::xml_node element, XmlNames& names, StyleRecord& record) const
+{
+    if (record.family != StyleFamily::Graphic)
+        return;
+    for (const Styles::PropertyKey& key : table.GetCategories())
+    {
+        std::string category = OvxUtils::ToUtf8(key.GetString());
+        const std::string attribute = category + std::string(OwnMarkup::kSubstyleParentSuffix);
+        const std::string_view parent = names.Attribute(element, {OwnMarkup::kNamespace, attribute});
+        if (!parent.empty())
+            record.substyleParents.push_back({std::move(category), std::string(parent), nullptr});
+    }
+    const std::string listed =
+        " " + std::string(names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kInheritedValues})) +
+        " ";
+    // Without the parents, which another program may have dropped, what stands there is all there is.
+    const auto isInherited = [&](const StyleValue& value)
+    {
+        const PropertyMapping& row = table.GetRows()[value.row];
+        const auto isCategory = [&](const SubstyleParent& parent)
+        { return OvxUtils::FromUtf8(parent.category) == row.category.GetString(); };
+        return listed.find(" " + NameOfProperty(row) + " ") != std::string::npos &&
+               std::ranges::any_of(record.substyleParents, isCategory);
+    };
+    const auto own =
+        std::stable_partition(record.values.begin(), record.values.end(), std::not_fn(isInherited));
+    record.inheritedValues.assign(own, record.values.end());
+    record.values.erase(own, record.values.end());
 }
 
 void StyleReader::ReadProperties(pugi::xml_node styleElement, XmlNames& names, StyleRecord& record)

@@ -64,6 +64,7 @@ private:
     void ReadDeclaration(pugi::xml_node element, XmlNames& names);
     void ReadDefault(pugi::xml_node element, std::string_view text, XmlNames& names);
     void ReadStyle(pugi::xml_node element, std::string_view text, XmlNames& names, StyleOrigin origin);
+    void ReadSubstyleParents(pugi::xml_node element, XmlNames& names, StyleRecord& record) const;
     void ReadProperties(pugi::xml_node styleElement, XmlNames& names, StyleRecord& record);
     void ReadAttribute(pugi::xml_attribute attribute, XmlName name, PropertyElement element,
                        const StyleRecord& record, Found& found);

@@ -42,6 +42,14 @@ struct StyleValue
     friend bool operator==(const StyleValue&, const StyleValue&) = default;
 };
 
+/// The named style of one category that a substyle inherits from, as the file says it.
+struct SubstyleParent
+{
+    std::string category;
+    std::string name;               ///< As in the file: encoded.
+    Styles::Style* style = nullptr; ///< What it became; null where it does not exist.
+};
+
 /// A style as it stands in the file.
 struct StyleRecord
 {
@@ -56,6 +64,8 @@ struct StyleRecord
     bool hasNoParent = false;       ///< Says of itself that shapes with it have no parent at all.
     std::size_t place = 0;          ///< Where its start tag stands in its XML text.
     std::vector<StyleValue> values; ///< In the order of the table, each property once.
+    std::vector<SubstyleParent> substyleParents;
+    std::vector<StyleValue> inheritedValues; ///< Values that stand there for other programs alone.
 
     StyleRecord* parent = nullptr;  ///< The named style of the same family that parentName means.
     Styles::Style* style = nullptr; ///< What a named graphic style became; owned by the sheet. It may be

@@ -182,7 +182,7 @@ void TextLevels::TakeUnreachable(std::size_t row, std::vector<TextLeaf>& leaves)
             continue;
         }
         context.warnings.AddAbout(*setter,
-                                  "it sets " + NameOfRow(mapping) +
+                                  "it sets " + NameOfProperty(mapping) +
                                       " for text that shall not have it; the text keeps it in the file");
         Any value = Evaluate(leaf.level, row);
         if (!value.IsEmpty())
