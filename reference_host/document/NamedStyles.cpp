@@ -71,9 +71,10 @@ void NamedStyleBuilder::Build(StyleCatalogue& catalogue)
         if (record.family == StyleFamily::Graphic && record.origin == StyleOrigin::Named)
             AddToSheet(record);
     }
-    LinkSubstyleParents(catalogue, warnings);
+    LinkSubstyleParents(catalogue, table, warnings);
     for (const StyleRecord* const record : parentsFirst)
         Complete(*record);
+    NoteInheritedValues(catalogue, table);
 }
 
 void NamedStyleBuilder::AddToSheet(StyleRecord& record)

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <utility>
 
 namespace ReferenceHost
 {
@@ -78,9 +79,20 @@ private:
     std::unordered_map<const StyleRecord*, Visit> visits;
 };
 
+/// Makes the values of one category that stand in a style for other programs its own.
+void OwnInheritedValues(StyleRecord& record, const std::string& category, const PropertyMappings& table)
+{
+    for (const StyleValue& value : record.inheritedValues)
+    {
+        if (table.GetRows()[value.row].category.GetString() == OvxUtils::FromUtf8(category))
+            record.values.push_back(value);
+    }
+    std::ranges::stable_sort(record.values, {}, &StyleValue::row);
+}
+
 } // namespace
 
-void LinkSubstyleParents(StyleCatalogue& catalogue, Warnings& warnings)
+void LinkSubstyleParents(StyleCatalogue& catalogue, const PropertyMappings& table, Warnings& warnings)
 {
     for (StyleRecord& record : catalogue.GetRecords())
     {
@@ -89,12 +101,49 @@ void LinkSubstyleParents(StyleCatalogue& catalogue, Warnings& warnings)
             const StyleRecord* const named = catalogue.FindNamed(StyleFamily::Graphic, parent.name);
             if (named != nullptr && named->ownCategory == parent.category)
                 parent.style = named->style;
-            if (parent.style == nullptr)
-                warnings.AddAbout(record, "its " + parent.category + " has the parent \"" +
-                                              ReadableName(parent.name) +
-                                              "\", which does not exist; it was dropped");
+            if (parent.style != nullptr)
+                continue;
+            warnings.AddAbout(record, "its " + parent.category + " has the parent \"" +
+                                          ReadableName(parent.name) +
+                                          "\", which does not exist; it was dropped");
+            OwnInheritedValues(record, parent.category, table);
+        }
+        std::erase_if(record.substyleParents,
+                      [](const SubstyleParent& parent) { return parent.style == nullptr; });
+    }
+}
+
+void NoteInheritedValues(StyleCatalogue& catalogue, const PropertyMappings& table)
+{
+    for (StyleRecord& record : catalogue.GetRecords())
+    {
+        record.inheritedValues.clear();
+        for (const SubstyleParent& parent : record.substyleParents)
+        {
+            for (std::size_t row = 0; row < table.GetRows().size(); ++row)
+            {
+                const PropertyMapping& mapping = table.GetRows()[row];
+                const bool isOwn =
+                    std::ranges::find(record.values, row, &StyleValue::row) != record.values.end();
+                if (mapping.category != parent.style->GetCategoryName() || table.GetFirstRow(row) != row ||
+                    isOwn)
+                    continue;
+                OvxUtils::Any value = FindInChain(parent.style, mapping.key);
+                if (!value.IsEmpty())
+                    record.inheritedValues.push_back({row, std::move(value)});
+            }
         }
     }
+}
+
+OvxUtils::Any FindInChain(const Styles::Style* style, const Styles::PropertyKey& key)
+{
+    for (; style != nullptr; style = style->GetParent())
+    {
+        if (style->DoesOverridePathProperty({key}))
+            return style->GetProperty(key);
+    }
+    return {};
 }
 
 void SetSubstyleParents(Styles::Style& style, const StyleRecord& record)

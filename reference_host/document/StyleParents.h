@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
 #include "reference_host/document/Warnings.h"
 
@@ -20,8 +21,16 @@ namespace ReferenceHost
 std::vector<StyleRecord*> LinkParents(StyleCatalogue& catalogue, Warnings& warnings);
 
 /// Finds the named styles of one category that substyles inherit from, for all graphic styles of the file.
-/// One that does not exist is reported and dropped. After the named styles were made.
-void LinkSubstyleParents(StyleCatalogue& catalogue, Warnings& warnings);
+/// One that does not exist is reported and dropped, and what stood for its values becomes the style's own.
+/// After the named styles were made.
+void LinkSubstyleParents(StyleCatalogue& catalogue, const PropertyMappings& table, Warnings& warnings);
+
+/// Notes in every style what its substyles inherit from named ones now. Other programs may have changed what
+/// stands there for them, which is no reason to write it again. After the named styles are complete.
+void NoteInheritedValues(StyleCatalogue& catalogue, const PropertyMappings& table);
+
+/// The value of a property that the nearest of a chain of styles sets; empty when none does, and for null.
+[[nodiscard]] OvxUtils::Any FindInChain(const Styles::Style* style, const Styles::PropertyKey& key);
 
 /// Gives the substyles of a whole style the parents that a style of the file says.
 void SetSubstyleParents(Styles::Style& style, const StyleRecord& record);

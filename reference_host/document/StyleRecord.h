@@ -65,7 +65,8 @@ struct StyleRecord
     std::size_t place = 0;          ///< Where its start tag stands in its XML text.
     std::vector<StyleValue> values; ///< In the order of the table, each property once.
     std::vector<SubstyleParent> substyleParents;
-    std::vector<StyleValue> inheritedValues; ///< Values that stand there for other programs alone.
+    std::vector<StyleValue> inheritedValues; ///< Values that stand there for other programs alone: what the
+                                             ///< parents of the substyles give.
 
     StyleRecord* parent = nullptr;  ///< The named style of the same family that parentName means.
     Styles::Style* style = nullptr; ///< What a named graphic style became; owned by the sheet. It may be

@@ -1,6 +1,7 @@
 #include "reference_host/document/SubstyleInheritance.h"
 
 #include "reference_host/document/OdfNamespaces.h"
+#include "reference_host/document/StyleParents.h"
 
 #include "host/utils/Utf8.h"
 
@@ -43,17 +44,6 @@ Inheritance OfRecord(const StyleRecord& record, const PropertyMappings& table)
         inheritance.values.emplace(value.row, value.value);
     ListValues(inheritance, table);
     return inheritance;
-}
-
-/// The value of a property that the nearest of a chain of styles sets; empty when none does.
-OvxUtils::Any FindInChain(const Styles::Style* style, const Styles::PropertyKey& key)
-{
-    for (; style != nullptr; style = style->GetParent())
-    {
-        if (style->DoesOverridePathProperty({key}))
-            return style->GetProperty(key);
-    }
-    return {};
 }
 
 Inheritance OfStyle(const Styles::Style& style, const NamedStyleEdits& named, const PropertyMappings& table,

@@ -121,10 +121,25 @@ TEST(ParentsOfSubstyles, ThatAreMissingAreReported)
     drawing.Named("style:name='Base' sp:fill-parent-style-name='Nowhere'"
                   " sp:inherited-values='fill.color'",
                   "<style:graphic-properties draw:fill-color='#0000ff'/>");
-    const OpenedDrawing opened = drawing.Open();
+    OpenedDrawing opened = drawing.Open();
 
     EXPECT_THAT(opened.warnings, ElementsAre(HasSubstr("its fill has the parent \"Nowhere\"")));
     EXPECT_EQ(opened.Named(L"Base")->GetSubstyle(FillStyleCategoryName, false)->GetParent(), nullptr);
+    EXPECT_EQ(OwnOf(opened.Named(L"Base"), "fill.color"), "#0000ff");
+    EXPECT_EQ(Saved(opened), drawing.Text());
+}
+
+TEST(ParentsOfSubstyles, LeaveWhatAnotherProgramMadeOfTheirValues)
+{
+    FlatDrawing drawing = WithFillStyle();
+    drawing
+        .Named("style:name='Base' sp:fill-parent-style-name='Sea' sp:inherited-values='fill.color'",
+               "<style:graphic-properties draw:fill-color='#123456'/>")
+        .Page("");
+    OpenedDrawing opened = drawing.Open();
+
+    EXPECT_EQ(EffectiveOf(opened.Named(L"Base"), "fill.color"), "#0000ff");
+    EXPECT_EQ(Saved(opened), drawing.Text());
 }
 
 TEST(RelativeValues, StayWhatTheyWereInTextThatNobodyAskedFor)
