@@ -130,6 +130,8 @@ void NamedStyleEdits::WriteKnown(const StyleRecord& record)
     Styles::Style& style = *record.style;
     std::vector<AttributeEdit> attributes;
     AddNaming(record, attributes);
+    if (!attributes.empty())
+        RenameRepetitions(element, attributes);
     Styles::Style* const parentInFile = record.parent == nullptr ? nullptr : record.parent->style;
     if (style.GetParent() != parentInFile)
         AddParent(style, attributes);
@@ -147,6 +149,23 @@ void NamedStyleEdits::WriteKnown(const StyleRecord& record)
     if (!wish.changes.empty())
         writer.EditProperties(element, wish.changes, Quoted(context.data.sheet.GetStyleName(&style)),
                               part.GetEdits());
+}
+
+void NamedStyleEdits::RenameRepetitions(pugi::xml_node style, const std::vector<AttributeEdit>& naming)
+{
+    const auto attribute = [](pugi::xml_node element, std::string_view local)
+    { return std::string_view(FindXmlAttribute(element, Odf::kStyle, local).value()); };
+    for (pugi::xml_node other : style.parent().children())
+    {
+        const bool isRepetition = other != style && IsXmlElement(other, {Odf::kStyle, "style"}) &&
+                                  attribute(other, "name") == attribute(style, "name") &&
+                                  attribute(other, "family") == attribute(style, "family");
+        for (const AttributeEdit& edit : naming)
+        {
+            if (isRepetition)
+                part.GetEdits().SetAttribute(other, edit);
+        }
+    }
 }
 
 void NamedStyleEdits::AddNaming(const StyleRecord& record, std::vector<AttributeEdit>& attributes) const

@@ -40,6 +40,9 @@ private:
     void WriteDefault();
     void WriteKnown(const StyleRecord& record);
     void WriteNew(const OvxStringT& name, Styles::Style& style);
+
+    /// Programs repeat styles. The first counts, and would lose its place to another if that kept the name.
+    void RenameRepetitions(pugi::xml_node style, const std::vector<AttributeEdit>& naming);
     void AddNaming(const StyleRecord& record, std::vector<AttributeEdit>& attributes) const;
     void AddParent(const Styles::Style& style, std::vector<AttributeEdit>& attributes) const;
     [[nodiscard]] std::string DisplayNameOf(const OvxStringT& name) const;

@@ -98,6 +98,19 @@ TEST(NamedStyleEdits, RenameTheParentInACopyToo)
     EXPECT_EQ(again.ParentOf(again.Object(L"2/1")->GetStyle()), L"Other");
 }
 
+TEST(NamedStyleEdits, RenameAStyleThatIsThereTwice)
+{
+    FlatDrawing drawing = TwoStyles();
+    drawing.Named("style:name='Base'");
+    OpenedDrawing opened = drawing.Open();
+    opened.drawing->RenameStyle(L"Base", L"Ground");
+
+    const OpenedDrawing again = Reopened(opened);
+
+    EXPECT_EQ(again.Named(L"Base"), nullptr);
+    EXPECT_EQ(OwnOf(again.Named(L"Ground"), "fill.color"), "#111111");
+}
+
 TEST(DefaultStyleEdits, ChangeItInPlace)
 {
     FlatDrawing drawing = TwoStyles();
