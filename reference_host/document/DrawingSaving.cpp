@@ -8,6 +8,8 @@ namespace ReferenceHost
 
 std::string Drawing::Serialise(std::vector<std::string>& warnings) const
 {
+    // What depends on a change is brought in line when its step ends.
+    data->history.EndLooseStep();
     return DrawingWriter(*data, warnings).Write();
 }
 

@@ -25,21 +25,12 @@ bool WasAskedFor(DrawingObject& object)
            std::ranges::any_of(object.GetRuns(), isMade);
 }
 
-/// Makes the styles that may differ from what the file gives although nobody asked for them, because they
-/// inherit from styles that changed.
+/// Makes the style of a shape that repeats values of styles of one category, which may have changed: what
+/// stands beside them for other programs must follow.
 void MakeDependent(DrawingObject& object, const StyleRecord* record)
 {
-    const bool repeatsValues =
-        record != nullptr && record->origin == StyleOrigin::Automatic && !record->substyleParents.empty();
-    if (repeatsValues || object.IsReadRelatively())
+    if (record != nullptr && record->origin == StyleOrigin::Automatic && !record->substyleParents.empty())
         static_cast<void>(object.GetStyle());
-    const auto make = [](TextUnit& unit)
-    {
-        if (unit.IsReadRelatively())
-            static_cast<void>(unit.GetStyle());
-    };
-    std::ranges::for_each(object.GetParagraphs(), make);
-    std::ranges::for_each(object.GetRuns(), make);
 }
 
 /// Fills in what leaves shall have: what the unit has, or what the file gives for one never asked for.

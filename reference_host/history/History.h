@@ -81,6 +81,9 @@ public:
     /// it does nothing.
     void Cancel();
 
+    /// Ends the step of changes outside of any, if there is one, as the next Open would.
+    void EndLooseStep();
+
     /// Tells whether a step is open. That of a change outside of any does not count.
     [[nodiscard]] bool IsOpen() const noexcept;
 
@@ -121,7 +124,6 @@ private:
     struct Level;
 
     [[nodiscard]] StepChanges& NeedChanges();
-    void EndLooseStep();
     bool Record();
     void Tell(HistoryEvent event, const StepChanges& changes) const;
 
