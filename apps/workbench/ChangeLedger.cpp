@@ -1,7 +1,6 @@
 #include "apps/workbench/ChangeLedger.h"
 
 #include "apps/workbench/PanelReading.h"
-#include "apps/workbench/RowPlace.h"
 #include "apps/workbench/SelectionSearch.h"
 #include "host/utils/Any.h"
 
@@ -62,27 +61,19 @@ ReportValue LookOf(const std::optional<CLR_COLORSPEC::Rgb>& look)
 
 } // namespace
 
-void ChangeLedger::Note(const Selection& selection, const Panel& panel)
+void ChangeLedger::Note(const Selection& selection, const RowPlace& place)
 {
-    if (!(selection.selector == notedSelector))
-        notedPanels.clear();
-    notedSelector = selection.selector;
     NeedReaders();
-    const std::size_t number = NumberOf(panel);
-    if (!notedPanels.insert(number).second)
+    if (!(selection.selector == notedSelector))
+        notedRows.clear();
+    notedSelector = selection.selector;
+    const bool isWhole = place.row == nullptr || place.IsStyleParent();
+    const std::vector<RowNumber> rows =
+        FindNew(isWhole ? AllRows() : std::vector<RowNumber>{NumberOf(place)});
+    if (rows.empty())
         return;
     for (const Selection& single : SplitByObject(selection))
-    {
-        auto& before = NeedTarget(single).before;
-        if (!before.contains(number))
-            before.emplace(number, ReadRows(number, single));
-    }
-}
-
-void ChangeLedger::Note(const Selection& selection)
-{
-    for (const std::unique_ptr<Panel>& panel : session.GetPanels())
-        Note(selection, *panel);
+        NoteRows(single, rows);
 }
 
 void ChangeLedger::NoteCreated(const OvxStringT& styleName)
@@ -91,8 +82,8 @@ void ChangeLedger::NoteCreated(const OvxStringT& styleName)
         NeedTarget(Selection{OvxStringViewT(L"sheet:") + styleName, SelectorScope::Sheet, styleName, {}});
     target.isCreated = true;
     NeedReaders();
-    for (std::size_t number = 0; number < readers.size(); ++number)
-        target.before.emplace(number, readers[number]->GetDescription().rows.size());
+    for (const RowNumber& number : AllRows())
+        target.before.try_emplace(number);
 }
 
 void ChangeLedger::NotePalette(const OvxStringT& name)
@@ -117,12 +108,30 @@ void ChangeLedger::NeedReaders()
         readers.push_back(std::make_unique<Panel>(panels[readers.size()]->GetDescription(), context));
 }
 
-std::size_t ChangeLedger::NumberOf(const Panel& panel) const
+std::vector<ChangeLedger::RowNumber> ChangeLedger::AllRows() const
+{
+    std::vector<RowNumber> rows;
+    for (std::size_t panel = 0; panel < readers.size(); ++panel)
+    {
+        for (std::size_t row = 0; row < readers[panel]->GetDescription().rows.size(); ++row)
+            rows.emplace_back(panel, row);
+    }
+    return rows;
+}
+
+ChangeLedger::RowNumber ChangeLedger::NumberOf(const RowPlace& place) const
 {
     const auto& panels = session.GetPanels();
-    const auto found = std::find_if(panels.begin(), panels.end(),
-                                    [&](const std::unique_ptr<Panel>& each) { return each.get() == &panel; });
-    return static_cast<std::size_t>(found - panels.begin());
+    const auto found =
+        std::find_if(panels.begin(), panels.end(),
+                     [&](const std::unique_ptr<Panel>& each) { return each.get() == place.panel; });
+    const RowDescription* const first = place.panel->GetDescription().rows.data();
+    return {static_cast<std::size_t>(found - panels.begin()), static_cast<std::size_t>(place.row - first)};
+}
+
+const RowDescription& ChangeLedger::RowOf(RowNumber number) const
+{
+    return readers[number.first]->GetDescription().rows[number.second];
 }
 
 ChangeLedger::Target& ChangeLedger::NeedTarget(const Selection& single)
@@ -130,24 +139,50 @@ ChangeLedger::Target& ChangeLedger::NeedTarget(const Selection& single)
     return targets.try_emplace(single.selector.Wide(), Target{single, false, {}}).first->second;
 }
 
-std::vector<ChangeLedger::RowFacts> ChangeLedger::ReadRows(std::size_t panel, const Selection& single) const
+/// Those of the rows that the selection at hand was not noted for yet.
+std::vector<ChangeLedger::RowNumber> ChangeLedger::FindNew(const std::vector<RowNumber>& rows)
 {
-    Panel& reader = *readers[panel];
-    const PanelDescription& description = reader.GetDescription();
-    IReflectable& names = reader.GetBoundNames();
-    session.GetStyles().HandIn(reader.GetDataSource(), description, single);
-    std::vector<RowFacts> rows;
-    for (const RowDescription& row : description.rows)
+    std::vector<RowNumber> found;
+    for (const RowNumber& number : rows)
     {
-        RowFacts facts;
-        facts.value = ToReportValue(names.ReadAny(row.property)).value_or(ReportValue());
-        facts.link = names.Read<OvxStringT>(row.property + kLinkSuffix);
-        facts.state = static_cast<ActivePropertyState>(names.Read<int>(row.property + kStateSuffix));
-        const auto origin = ParseOrigin(names.Read<OvxStringT>(row.property + kOriginSuffix));
-        facts.isLocal = origin && origin->kind == RowOrigin::Kind::Local;
-        rows.push_back(std::move(facts));
+        if (notedRows.insert(number).second)
+            found.push_back(number);
     }
-    return rows;
+    return found;
+}
+
+/// The rows stand in the order of their panels, so that each panel is handed the target once.
+void ChangeLedger::NoteRows(const Selection& single, const std::vector<RowNumber>& rows)
+{
+    auto& before = NeedTarget(single).before;
+    std::optional<std::size_t> handed;
+    for (const RowNumber& number : rows)
+    {
+        if (before.contains(number))
+            continue;
+        if (handed != number.first)
+            HandIn(number.first, single);
+        handed = number.first;
+        before.emplace(number, Read(number));
+    }
+}
+
+void ChangeLedger::HandIn(std::size_t panel, const Selection& single) const
+{
+    session.GetStyles().HandIn(readers[panel]->GetDataSource(), readers[panel]->GetDescription(), single);
+}
+
+ChangeLedger::RowFacts ChangeLedger::Read(RowNumber number) const
+{
+    const IReflectable& names = readers[number.first]->GetBoundNames();
+    const OvxStringT& property = RowOf(number).property;
+    RowFacts facts;
+    facts.value = ToReportValue(names.ReadAny(property)).value_or(ReportValue());
+    facts.link = names.Read<OvxStringT>(property + kLinkSuffix);
+    facts.state = static_cast<ActivePropertyState>(names.Read<int>(property + kStateSuffix));
+    const auto origin = ParseOrigin(names.Read<OvxStringT>(property + kOriginSuffix));
+    facts.isLocal = origin && origin->kind == RowOrigin::Kind::Local;
+    return facts;
 }
 
 std::vector<const ChangeLedger::Target*> ChangeLedger::TargetsInOrder() const
@@ -182,21 +217,21 @@ void ChangeLedger::DescribePalette(std::vector<Change>& changes) const
 
 void ChangeLedger::DescribeTarget(const Target& target, std::vector<Change>& changes) const
 {
-    for (const auto& [panel, before] : target.before)
+    std::optional<std::size_t> handed;
+    for (const auto& [number, before] : target.before)
     {
-        const std::vector<RowFacts> now = ReadRows(panel, target.selection);
-        for (std::size_t index = 0; index < now.size(); ++index)
-        {
-            const RowPlace place{readers[panel].get(), &readers[panel]->GetDescription().rows[index]};
-            // The state that goes with the name of the parent is that of the whole style. What a style that
-            // is new inherits is no change.
-            const bool isSame =
-                place.IsStyleParent() ? now[index].value == before[index].value : now[index] == before[index];
-            if (isSame || (target.isCreated && !now[index].isLocal))
-                continue;
-            changes.push_back({IdOf(target.selection), place.GetName(), before[index].value, now[index].value,
-                               before[index].link, now[index].link, now[index].state});
-        }
+        if (handed != number.first)
+            HandIn(number.first, target.selection);
+        handed = number.first;
+        const RowFacts now = Read(number);
+        const RowPlace place{readers[number.first].get(), &RowOf(number)};
+        // The state that goes with the name of the parent is that of the whole style. What a style that is
+        // new inherits is no change.
+        const bool isSame = place.IsStyleParent() ? now.value == before.value : now == before;
+        if (isSame || (target.isCreated && !now.isLocal))
+            continue;
+        changes.push_back({IdOf(target.selection), place.GetName(), before.value, now.value, before.link,
+                           now.link, now.state});
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "apps/workbench/Change.h"
 #include "apps/workbench/Panel.h"
+#include "apps/workbench/RowPlace.h"
 #include "apps/workbench/Selection.h"
 #include "apps/workbench/Session.h"
 #include "host/colour/CLR_COLORSPEC.h"
@@ -15,6 +16,7 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace Workbench
@@ -30,11 +32,9 @@ public:
     /// The session is borrowed.
     explicit ChangeLedger(Session& itsSession) : session(itsSession) {}
 
-    /// Remembers what each target of a selection shows in a panel of the session, unless it is known already.
-    void Note(const Selection& selection, const Panel& panel);
-
-    /// Note() for all panels.
-    void Note(const Selection& selection);
+    /// Remembers what each target of a selection shows in a row, unless it is known already. A whole style,
+    /// and the name of its parent, stand for all rows of all panels.
+    void Note(const Selection& selection, const RowPlace& place);
 
     /// Remembers that a named style was not there before.
     void NoteCreated(const OvxStringT& styleName);
@@ -46,6 +46,9 @@ public:
     [[nodiscard]] std::vector<Change> Describe();
 
 private:
+    /// A panel of the session, and a row of it, each by its number.
+    using RowNumber = std::pair<std::size_t, std::size_t>;
+
     /// What a target shows in a row.
     struct RowFacts
     {
@@ -61,13 +64,18 @@ private:
     {
         Selection selection; ///< Of this target alone.
         bool isCreated = false;
-        std::map<std::size_t, std::vector<RowFacts>> before; ///< By the number of the panel, in row order.
+        std::map<RowNumber, RowFacts> before;
     };
 
     void NeedReaders();
-    [[nodiscard]] std::size_t NumberOf(const Panel& panel) const;
+    [[nodiscard]] std::vector<RowNumber> AllRows() const;
+    [[nodiscard]] RowNumber NumberOf(const RowPlace& place) const;
+    [[nodiscard]] const RowDescription& RowOf(RowNumber number) const;
     [[nodiscard]] Target& NeedTarget(const Selection& single);
-    [[nodiscard]] std::vector<RowFacts> ReadRows(std::size_t panel, const Selection& single) const;
+    [[nodiscard]] std::vector<RowNumber> FindNew(const std::vector<RowNumber>& rows);
+    void NoteRows(const Selection& single, const std::vector<RowNumber>& rows);
+    void HandIn(std::size_t panel, const Selection& single) const;
+    [[nodiscard]] RowFacts Read(RowNumber number) const;
     [[nodiscard]] std::vector<const Target*> TargetsInOrder() const;
     void DescribePalette(std::vector<Change>& changes) const;
     void DescribeTarget(const Target& target, std::vector<Change>& changes) const;
@@ -78,9 +86,9 @@ private:
     std::unordered_map<std::wstring, Target> targets; ///< By their selectors.
     std::map<OvxStringT, std::optional<CLR_COLORSPEC::Rgb>> palette;
 
-    /// Which panels the selection that was noted last was noted for.
+    /// Which rows the selection that was noted last was noted for.
     OvxStringT notedSelector;
-    std::set<std::size_t> notedPanels;
+    std::set<RowNumber> notedRows;
 };
 
 } // namespace Workbench

@@ -105,10 +105,7 @@ void NoteParents(Editor::Workings& workings, const RowPlace& place)
     for (const OvxStringT& name : workings.session.GetStyles().ParentsOfTargets(place.panel->GetDataSource()))
     {
         const Selection parent{OvxStringViewT(L"sheet:") + name, SelectorScope::Sheet, name, {}};
-        if (place.row == nullptr)
-            workings.ledger.Note(parent);
-        else
-            workings.ledger.Note(parent, *place.panel);
+        workings.ledger.Note(parent, place);
     }
 }
 

@@ -53,7 +53,8 @@ void Editor::Workings::Perform(const OvxStringT& stepName, const std::vector<Row
                                const std::function<void()>& work)
 {
     NeedTargets();
-    Note(places);
+    for (const RowPlace& place : places)
+        ledger.Note(selection, place);
     if (group)
     {
         for (const RowPlace& place : places)
@@ -71,18 +72,6 @@ void Editor::Workings::Perform(const OvxStringT& stepName, const std::vector<Row
         throw;
     }
     Refresh();
-}
-
-void Editor::Workings::Note(const std::vector<RowPlace>& places)
-{
-    for (const RowPlace& place : places)
-    {
-        // Another parent, and what is done to a style as a whole, shows in every panel.
-        if (place.row == nullptr || place.IsStyleParent())
-            ledger.Note(selection);
-        else
-            ledger.Note(selection, *place.panel);
-    }
 }
 
 std::vector<RowPlace> Editor::Workings::FindRows(const std::vector<OvxStringT>& names) const

@@ -38,9 +38,6 @@ struct Editor::Workings
     void Perform(const OvxStringT& stepName, const std::vector<RowPlace>& places,
                  const std::function<void()>& work);
 
-    /// Remembers how the targets of these rows and whole styles are.
-    void Note(const std::vector<RowPlace>& places);
-
     [[nodiscard]] std::vector<RowPlace> FindRows(const std::vector<OvxStringT>& names) const;
     [[nodiscard]] std::vector<RowPlace> FindRowsOrPanels(const std::vector<OvxStringT>& names) const;
 
