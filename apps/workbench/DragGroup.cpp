@@ -1,19 +1,13 @@
 #include "apps/workbench/DragGroup.h"
 
 #include "apps/workbench/StepNames.h"
+#include "apps/workbench/TargetHandover.h"
 
 #include <algorithm>
 #include <exception>
 
 namespace Workbench
 {
-namespace
-{
-
-/// The category in which the group of any panel lands on default styles.
-constexpr OvxStringViewT kGroupCategory = L"fill";
-
-} // namespace
 
 DragGroup::DragGroup(ReferenceHost::History& history, bool itsTargetsAreDefaults)
     : gesture(std::in_place, history, NameGroup()), targetsAreDefaults(itsTargetsAreDefaults)
@@ -36,7 +30,7 @@ void DragGroup::Join(Panel& panel)
 
 bool DragGroup::Postpones(const Panel& panel) const
 {
-    return targetsAreDefaults && !(panel.GetDescription().category == kGroupCategory);
+    return targetsAreDefaults && !TargetHandover::IsCategoryOfGroups(panel.GetDescription().category);
 }
 
 void DragGroup::Postpone(const RowPlace& place, const OvxUtils::Any& value)

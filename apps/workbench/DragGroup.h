@@ -14,8 +14,8 @@ namespace Workbench
 
 /// Many edits as one: a step of history, and a group in each panel that takes part.
 ///
-/// What the default styles are given is gathered until the end: by the fill panel itself, and for every other
-/// panel here, because a panel's own group lands in the fills of the default styles whatever the panel.
+/// What the default styles are given is gathered until the end: by a panel of the category that its group
+/// lands in, and for every other panel here, see TargetHandover::IsCategoryOfGroups().
 class DragGroup
 {
 public:

@@ -134,6 +134,11 @@ bool TargetHandover::IsHostCategory(const OvxStringT& category)
            std::end(hostCategories);
 }
 
+bool TargetHandover::IsCategoryOfGroups(const OvxStringT& category)
+{
+    return KeyOf(category) == Styles::FillStyleCategoryName;
+}
+
 void TargetHandover::RegisterCategory(const CategoryDescription& category)
 {
     ReferenceHost::CategoryRegistry::GetInstance().RegisterCategory(KeyOf(category.name), category.title);

@@ -49,6 +49,10 @@ public:
     /// Tells whether every drawing has a category, whatever panels there are.
     [[nodiscard]] static bool IsHostCategory(const OvxStringT& category);
 
+    /// Tells whether a group of writes to default styles may be gathered by a panel of that category itself:
+    /// a group lands in the same category whatever the panel, and in any other it would be misplaced.
+    [[nodiscard]] static bool IsCategoryOfGroups(const OvxStringT& category);
+
     /// Makes a category of a panel's own known by its display name. For before a drawing is opened.
     static void RegisterCategory(const CategoryDescription& category);
 

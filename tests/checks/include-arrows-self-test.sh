@@ -14,6 +14,7 @@ accepts "the reference host sees third parties" reference_host/A.cpp '#include <
 accepts "the reference host sees the host" reference_host/A.cpp '#include "host/b/B.h"'
 accepts "an application sees the reference host" apps/cli/A.cpp '#include "reference_host/B.h"'
 accepts "the handover sees the style model" apps/workbench/TargetHandover.cpp '#include "host/style_model/Style.h"'
+accepts "a program edits styles by name" apps/cli/A.h '#include "host/style_model/IStylesCollectionEditor.h"'
 
 rejects "host sees the library" 'host/A.h:1: host/ must not see module/' \
     host/A.h '#include "module/B.h"'

@@ -267,6 +267,12 @@ TEST(CategoryOfANamedStyle, IsStyleForAWholeOne)
     EXPECT_EQ(handover.CategoryOf(L"unknown"), L"");
 }
 
+TEST(CategoryOfGroups, IsTheOneThatGroupsOnDefaultStylesLandIn)
+{
+    EXPECT_TRUE(TargetHandover::IsCategoryOfGroups(L"fill"));
+    EXPECT_FALSE(TargetHandover::IsCategoryOfGroups(L"outline"));
+}
+
 TEST(HostCategories, AreTheFiveOfEveryDrawing)
 {
     for (const wchar_t* category : {L"style", L"fill", L"outline", L"paragraph", L"character"})
