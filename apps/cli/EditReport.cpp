@@ -88,6 +88,13 @@ TextLine ChangeToLine(const Change& change, const RowsByName& rows)
     return line;
 }
 
+/// Tells whether a row has no value, before and now: that its state is another means nothing to people.
+bool IsUnset(const Change& change)
+{
+    return std::holds_alternative<std::monostate>(change.from) &&
+           std::holds_alternative<std::monostate>(change.to);
+}
+
 OvxStringT SavingToText(const EditResult& result)
 {
     const OvxStringT file = PathToText(result.file);
@@ -121,7 +128,10 @@ std::vector<TextLine> ChangesToText(const EditResult& result,
         lines.push_back({{{GetString(L"edit.no-change"), OutputRole::Faint}}, 2});
     const RowsByName rows = RowsOf(panels);
     for (const Change& change : result.changes)
-        lines.push_back(ChangeToLine(change, rows));
+    {
+        if (!IsUnset(change))
+            lines.push_back(ChangeToLine(change, rows));
+    }
     return lines;
 }
 

@@ -27,7 +27,8 @@ struct EditResult
 };
 
 /// The result as people read it: what the commands told, where the drawing went, and a line for each change
-/// with what was changed, in which property, from and to which value, and the state now.
+/// with what was changed, in which property, from and to which value, and the state now. A row that had no
+/// value and has none is left out.
 ///
 /// @param panels those whose rows were changed; numbers are shown in the unit of their row.
 /// @returns UTF-8, every line ended.

@@ -44,6 +44,9 @@ void CheckOutput(const OutputOptions& output, const std::string& verb)
                                                 : "the changed drawing can go to one place only";
         throw UsageError(problem + "; expected one of -o OUT, --in-place and --dry-run" + help);
     }
+    if (output.target == "-")
+        throw UsageError("-o - names no file, and the standard output is for the report; expected a file" +
+                         help);
     if (output.keepsBackup && !output.isInPlace)
         throw UsageError("--backup keeps what a file was; expected it beside --in-place" + help);
 }

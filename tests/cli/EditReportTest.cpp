@@ -82,6 +82,14 @@ TEST_F(EditedLength, SaysThatAValueWasOrIsNotSet)
     EXPECT_THAT(Text(), HasSubstr("  1/4  outline.width  not set  →  0.8 mm  no parent\n"));
 }
 
+TEST_F(EditedLength, IsLeftOutWhereNothingSetsItBeforeAndAfter)
+{
+    result.changes.push_back({L"1/5", L"outline.width", {}, {}, {}, {}, ActivePropertyState::None});
+
+    EXPECT_EQ(Text(), "a.fodg: saved as b.fodg\n"
+                      "  1/4  outline.width  0.5 mm  →  0.8 mm  local\n");
+}
+
 TEST_F(EditedLength, FollowsTheLanguageInForce)
 {
     ReferenceHost::SetLanguage("de");

@@ -156,6 +156,11 @@ TEST(EditingCommandLine, WantsExactlyOnePlaceToWriteTo)
     EXPECT_THAT(ErrorOf({"edit", "a", "--script", "b"}), HasSubstr("see styleprops edit --help"));
 }
 
+TEST(EditingCommandLine, LeavesTheStandardOutputToTheReport)
+{
+    EXPECT_THAT(ErrorOf({"clear", "a", "fill.color", "-o", "-"}), HasSubstr("expected a file"));
+}
+
 TEST(EditingCommandLine, KeepsABackupInPlaceOnly)
 {
     EXPECT_THAT(ErrorOf({"clear", "a", "fill.color", "-o", "b", "--backup"}), HasSubstr("beside --in-place"));
