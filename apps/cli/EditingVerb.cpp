@@ -95,8 +95,8 @@ EditingCommand ReadShow(const EditingWords& words)
 constexpr EditingVerb kVerbs[] = {
     {"set", "Set values of the selection", "set ROW=VALUE...", "ASSIGNMENT",
      "ROW=VALUE: a row as PANEL.ROW, and its new value with a unit where it has one:\n"
-     "fill.color=#3366cc, outline.width=0.5mm, character.size=12pt, fill.transparency=30%,\n"
-     "fill.color=tomato, fill.color=palette:NAME",
+     "  fill.color=#3366cc, outline.width=0.5mm, character.size=12pt, fill.transparency=30%,\n"
+     "  fill.color=tomato, fill.color=palette:NAME",
      1, kAny, false, false, VerbPlace::Everywhere,
      "set sketch.odg --select 'name:Box*' fill.color=#3366cc outline.width=0.5mm --in-place", ReadSet},
     {"clear", "Take local values away", "clear ROW...", "ROW", kRowHelp, 1, kAny, false, false,
