@@ -3,6 +3,7 @@
 #include "apps/workbench/PanelReading.h"
 #include "apps/workbench/SelectionSearch.h"
 #include "host/utils/Any.h"
+#include "reference_host/history/History.h"
 
 #include <algorithm>
 #include <tuple>
@@ -73,7 +74,7 @@ void ChangeLedger::Note(const Selection& selection, const RowPlace& place)
     if (rows.empty())
         return;
     for (const Selection& single : SplitByObject(selection))
-        NoteRows(single, rows);
+        NeedTarget(single).rows.insert(rows.begin(), rows.end());
 }
 
 void ChangeLedger::NoteCreated(const OvxStringT& styleName)
@@ -82,21 +83,31 @@ void ChangeLedger::NoteCreated(const OvxStringT& styleName)
         NeedTarget(Selection{OvxStringViewT(L"sheet:") + styleName, SelectorScope::Sheet, styleName, {}});
     target.isCreated = true;
     NeedReaders();
-    for (const RowNumber& number : AllRows())
-        target.before.try_emplace(number);
+    const std::vector<RowNumber> rows = AllRows();
+    target.rows.insert(rows.begin(), rows.end());
 }
 
 void ChangeLedger::NotePalette(const OvxStringT& name)
 {
-    palette.try_emplace(name, session.GetDrawing().FindPaletteColour(name));
+    palette.insert(name);
 }
 
 std::vector<Change> ChangeLedger::Describe()
 {
+    const std::vector<const Target*> ordered = TargetsInOrder();
+    PaletteLooks paletteBefore;
+    std::vector<RowsFacts> before;
+    {
+        const ReferenceHost::History::Rewind atTheBeginning(session.GetDrawing().GetHistory());
+        paletteBefore = ReadPalette();
+        for (const Target* target : ordered)
+            before.push_back(ReadRows(*target));
+    }
+
     std::vector<Change> changes;
-    DescribePalette(changes);
-    for (const Target* target : TargetsInOrder())
-        DescribeTarget(*target, changes);
+    DescribePalette(paletteBefore, changes);
+    for (std::size_t place = 0; place < ordered.size(); ++place)
+        DescribeTarget(*ordered[place], before[place], changes);
     return changes;
 }
 
@@ -151,22 +162,6 @@ std::vector<ChangeLedger::RowNumber> ChangeLedger::FindNew(const std::vector<Row
     return found;
 }
 
-/// The rows stand in the order of their panels, so that each panel is handed the target once.
-void ChangeLedger::NoteRows(const Selection& single, const std::vector<RowNumber>& rows)
-{
-    auto& before = NeedTarget(single).before;
-    std::optional<std::size_t> handed;
-    for (const RowNumber& number : rows)
-    {
-        if (before.contains(number))
-            continue;
-        if (handed != number.first)
-            HandIn(number.first, single);
-        handed = number.first;
-        before.emplace(number, Read(number));
-    }
-}
-
 void ChangeLedger::HandIn(std::size_t panel, const Selection& single) const
 {
     session.GetStyles().HandIn(readers[panel]->GetDataSource(), readers[panel]->GetDescription(), single);
@@ -185,6 +180,29 @@ ChangeLedger::RowFacts ChangeLedger::Read(RowNumber number) const
     return facts;
 }
 
+/// The rows stand in the order of their panels, so that each panel is handed the target once.
+ChangeLedger::RowsFacts ChangeLedger::ReadRows(const Target& target) const
+{
+    RowsFacts facts;
+    std::optional<std::size_t> handed;
+    for (const RowNumber& number : target.rows)
+    {
+        if (handed != number.first)
+            HandIn(number.first, target.selection);
+        handed = number.first;
+        facts.emplace(number, Read(number));
+    }
+    return facts;
+}
+
+ChangeLedger::PaletteLooks ChangeLedger::ReadPalette() const
+{
+    PaletteLooks looks;
+    for (const OvxStringT& name : palette)
+        looks.emplace(name, session.GetDrawing().FindPaletteColour(name));
+    return looks;
+}
+
 std::vector<const ChangeLedger::Target*> ChangeLedger::TargetsInOrder() const
 {
     const DrawingOrder order(session);
@@ -200,37 +218,34 @@ std::vector<const ChangeLedger::Target*> ChangeLedger::TargetsInOrder() const
     return ordered;
 }
 
-void ChangeLedger::DescribePalette(std::vector<Change>& changes) const
+void ChangeLedger::DescribePalette(const PaletteLooks& before, std::vector<Change>& changes) const
 {
-    for (const auto& [name, before] : palette)
+    for (const auto& [name, look] : ReadPalette())
     {
-        const auto now = session.GetDrawing().FindPaletteColour(name);
-        if (now != before)
+        const auto lookBefore = before.at(name);
+        if (look != lookBefore)
             changes.push_back({.id = OvxStringViewT(L"palette:") + name,
                                .property = L"color",
-                               .from = LookOf(before),
-                               .to = LookOf(now),
+                               .from = LookOf(lookBefore),
+                               .to = LookOf(look),
                                .fromLink = {},
                                .toLink = {}});
     }
 }
 
-void ChangeLedger::DescribeTarget(const Target& target, std::vector<Change>& changes) const
+void ChangeLedger::DescribeTarget(const Target& target, const RowsFacts& before,
+                                  std::vector<Change>& changes) const
 {
-    std::optional<std::size_t> handed;
-    for (const auto& [number, before] : target.before)
+    for (const auto& [number, now] : ReadRows(target))
     {
-        if (handed != number.first)
-            HandIn(number.first, target.selection);
-        handed = number.first;
-        const RowFacts now = Read(number);
+        const RowFacts& earlier = before.at(number);
         const RowPlace place{readers[number.first].get(), &RowOf(number)};
         // The state that goes with the name of the parent is that of the whole style. What a style that is
         // new inherits is no change.
-        const bool isSame = place.IsStyleParent() ? now.value == before.value : now == before;
+        const bool isSame = place.IsStyleParent() ? now.value == earlier.value : now == earlier;
         if (isSame || (target.isCreated && !now.isLocal))
             continue;
-        changes.push_back({IdOf(target.selection), place.GetName(), before.value, now.value, before.link,
+        changes.push_back({IdOf(target.selection), place.GetName(), earlier.value, now.value, earlier.link,
                            now.link, now.state});
     }
 }

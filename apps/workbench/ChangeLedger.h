@@ -22,7 +22,8 @@
 namespace Workbench
 {
 
-/// Remembers what targets showed before edits touched them, and tells what became of it.
+/// Remembers which rows of which targets edits touched, and tells what became of them since the drawing was
+/// opened.
 ///
 /// Reads through panels of its own, so that those of the session and their listeners are left alone. What is
 /// kept grows with the targets that are touched, not with the number of edits.
@@ -32,14 +33,14 @@ public:
     /// The session is borrowed.
     explicit ChangeLedger(Session& itsSession) : session(itsSession) {}
 
-    /// Remembers what each target of a selection shows in a row, unless it is known already. A whole style,
-    /// and the name of its parent, stand for all rows of all panels.
+    /// Remembers that a row of each target of a selection is touched. A whole style, and the name of its
+    /// parent, stand for all rows of all panels.
     void Note(const Selection& selection, const RowPlace& place);
 
     /// Remembers that a named style was not there before.
     void NoteCreated(const OvxStringT& styleName);
 
-    /// Remembers the look of a palette entry, or that there is none, unless it is known already.
+    /// Remembers that a palette entry is touched.
     void NotePalette(const OvxStringT& name);
 
     /// What shows otherwise now, in the order that Editor::DescribeChanges() promises.
@@ -60,12 +61,16 @@ private:
         friend bool operator==(const RowFacts&, const RowFacts&) = default;
     };
 
+    using RowsFacts = std::map<RowNumber, RowFacts>;
+
     struct Target
     {
         Selection selection; ///< Of this target alone.
         bool isCreated = false;
-        std::map<RowNumber, RowFacts> before;
+        std::set<RowNumber> rows;
     };
+
+    using PaletteLooks = std::map<OvxStringT, std::optional<CLR_COLORSPEC::Rgb>>;
 
     void NeedReaders();
     [[nodiscard]] std::vector<RowNumber> AllRows() const;
@@ -73,18 +78,19 @@ private:
     [[nodiscard]] const RowDescription& RowOf(RowNumber number) const;
     [[nodiscard]] Target& NeedTarget(const Selection& single);
     [[nodiscard]] std::vector<RowNumber> FindNew(const std::vector<RowNumber>& rows);
-    void NoteRows(const Selection& single, const std::vector<RowNumber>& rows);
     void HandIn(std::size_t panel, const Selection& single) const;
     [[nodiscard]] RowFacts Read(RowNumber number) const;
+    [[nodiscard]] RowsFacts ReadRows(const Target& target) const;
+    [[nodiscard]] PaletteLooks ReadPalette() const;
     [[nodiscard]] std::vector<const Target*> TargetsInOrder() const;
-    void DescribePalette(std::vector<Change>& changes) const;
-    void DescribeTarget(const Target& target, std::vector<Change>& changes) const;
+    void DescribePalette(const PaletteLooks& before, std::vector<Change>& changes) const;
+    void DescribeTarget(const Target& target, const RowsFacts& before, std::vector<Change>& changes) const;
 
     Session& session;
     ReferenceHost::DataContext context{nullptr, nullptr};
     std::vector<std::unique_ptr<Panel>> readers; ///< A second one of each panel of the session, in its order.
     std::unordered_map<std::wstring, Target> targets; ///< By their selectors.
-    std::map<OvxStringT, std::optional<CLR_COLORSPEC::Rgb>> palette;
+    std::set<OvxStringT> palette;
 
     /// Which rows the selection that was noted last was noted for.
     OvxStringT notedSelector;

@@ -106,7 +106,7 @@ public:
 
     /// What the edits made of their targets: palette entries first, then the default styles, named styles in
     /// the order of the sheet, and objects in document order, rows in the order of the panels. Each is
-    /// compared with what it was before the first edit that touched it; what was undone does not show.
+    /// compared with what it was when the drawing was opened; what was undone does not show.
     [[nodiscard]] std::vector<Change> DescribeChanges();
 
     /// Saves the drawing as it is now.

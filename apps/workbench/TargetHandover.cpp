@@ -198,6 +198,12 @@ std::vector<OvxStringT> TargetHandover::ParentsOfTargets(const BaseStyleProperti
     return names;
 }
 
+std::optional<std::vector<OvxStringT>> TargetHandover::DefinedNames(const PanelDescription& description,
+                                                                    const RowDescription& row) const
+{
+    return drawing->GetDefinedNames(KeyOf(description.category), KeyOf(row.identifier));
+}
+
 const std::vector<OvxStringT>& TargetHandover::GetStyleNames() const
 {
     return drawing->GetStyleSheet().GetNames();

@@ -74,6 +74,11 @@ public:
     /// The value of a choice that means `text`.
     [[nodiscard]] static OvxUtils::Any ChoiceOfText(const OvxStringT& text);
 
+    /// What a row that holds the name of a gradient, hatch and so on may name in the drawing; none for any
+    /// other row.
+    [[nodiscard]] std::optional<std::vector<OvxStringT>> DefinedNames(const PanelDescription& description,
+                                                                      const RowDescription& row) const;
+
     /// The named styles that the targets of a panel inherit from directly, in the panel's category: each name
     /// once, in the order of the targets. Styles without a name are left out.
     [[nodiscard]] std::vector<OvxStringT> ParentsOfTargets(const BaseStylePropertiesDatasource& panel) const;

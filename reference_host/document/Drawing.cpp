@@ -2,6 +2,7 @@
 
 #include "reference_host/document/DrawingData.h"
 #include "reference_host/document/DrawingReader.h"
+#include "reference_host/document/StyleReader.h"
 #include "reference_host/style_model/CategoryRegistry.h"
 #include "reference_host/style_model/StyleHosting.h"
 
@@ -115,6 +116,23 @@ std::optional<CLR_COLORSPEC::Rgb> Drawing::FindPaletteColour(const OvxStringT& n
 {
     const auto found = std::ranges::find(data->palette, name, &PaletteEntry::name);
     return found == data->palette.end() ? std::nullopt : std::optional(found->look);
+}
+
+std::optional<std::vector<OvxStringT>> Drawing::GetDefinedNames(const Styles::PropertyKey& category,
+                                                                const Styles::PropertyKey& key) const
+{
+    const PropertyMapping* const row = data->table.FindRow(category, key);
+    if (row == nullptr || !IsDefinitionKind(row->definition))
+        return std::nullopt;
+    const std::string kind = DefinitionKey(row->definition, {});
+    std::vector<OvxStringT> names;
+    for (const auto& [definition, name] : data->declared.definitions)
+    {
+        if (definition.starts_with(kind))
+            names.push_back(name);
+    }
+    std::ranges::sort(names);
+    return names;
 }
 
 const std::vector<Styles::PropertyKey>& Drawing::GetCategories() const noexcept

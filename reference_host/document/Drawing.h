@@ -106,6 +106,11 @@ public:
     /// The look of a palette entry; none when the palette does not hold it.
     [[nodiscard]] std::optional<CLR_COLORSPEC::Rgb> FindPaletteColour(const OvxStringT& name) const;
 
+    /// What a property that holds the name of a definition may name in this drawing: gradients, hatches and
+    /// so on, in alphabetical order. None for a property that holds no such name.
+    [[nodiscard]] std::optional<std::vector<OvxStringT>>
+    GetDefinedNames(const Styles::PropertyKey& category, const Styles::PropertyKey& key) const;
+
     /// The categories that every whole style has a substyle of: fill, outline, paragraph, character, then
     /// those of the extensions in the order given.
     [[nodiscard]] const std::vector<Styles::PropertyKey>& GetCategories() const noexcept;

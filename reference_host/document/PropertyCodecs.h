@@ -19,7 +19,7 @@ struct DeclaredNames
     /// The family that each font face declares, without quotes.
     std::unordered_map<std::string, OvxStringT> fontFamilies;
 
-    /// The display names of gradients, hatches, fill images, dashes and markers, by DefinitionKey().
+    /// What people call the gradients, hatches, fill images, dashes and markers, by DefinitionKey().
     std::unordered_map<std::string, OvxStringT> definitions;
 };
 

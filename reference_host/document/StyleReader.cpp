@@ -59,6 +59,11 @@ std::size_t FindTextColourRow(const PropertyMappings& table)
 
 } // namespace
 
+bool IsDefinitionKind(std::string_view kind)
+{
+    return std::ranges::find(kDefinitions, kind, &Definition::kind) != kDefinitions.end();
+}
+
 StyleReader::StyleReader(const PropertyMappings& properties, const PaletteColours& colours,
                          StyleCatalogue& target, Warnings& reports)
     : table(properties),
@@ -95,11 +100,12 @@ void StyleReader::ReadDeclaration(pugi::xml_node element, XmlNames& names)
         return;
     }
     const auto* const definition = std::ranges::find(kDefinitions, name, &Definition::element);
-    const std::string_view displayName = names.Attribute(element, {Odf::kDraw, "display-name"});
-    if (definition == kDefinitions.end() || displayName.empty())
-        return;
     const std::string_view encoded = names.Attribute(element, {Odf::kDraw, "name"});
-    declared.definitions[DefinitionKey(definition->kind, encoded)] = OvxUtils::FromUtf8(displayName);
+    if (definition == kDefinitions.end() || encoded.empty())
+        return;
+    const std::string_view displayName = names.Attribute(element, {Odf::kDraw, "display-name"});
+    declared.definitions[DefinitionKey(definition->kind, encoded)] =
+        displayName.empty() ? DecodeStyleName(encoded) : OvxUtils::FromUtf8(displayName);
 }
 
 void StyleReader::ReadStyles(pugi::xml_node container, std::string_view text, XmlNames& names,

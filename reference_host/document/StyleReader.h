@@ -23,6 +23,9 @@ namespace ReferenceHost
 /// The colours of a palette by their names in UTF-8.
 using PaletteColours = std::unordered_map<std::string, CLR_COLORSPEC::Rgb>;
 
+/// Tells whether definitions of a kind ("gradient", ...) are read, so that it is known which there are.
+[[nodiscard]] bool IsDefinitionKind(std::string_view kind);
+
 /// Reads the styles of a drawing, and the names that they refer to, as they stand in the file.
 class StyleReader
 {

@@ -40,6 +40,23 @@ void History::Step::Cancel()
         history.Cancel();
 }
 
+History::Rewind::Rewind(History& itsHistory) : history(itsHistory)
+{
+    history.EndLooseStep();
+    for (auto level = history.open.rbegin(); level != history.open.rend(); ++level)
+        (*level)->changes.Undo();
+    for (auto step = history.done.rbegin(); step != history.done.rend(); ++step)
+        (*step)->changes.Undo();
+}
+
+History::Rewind::~Rewind()
+{
+    for (const auto& step : history.done)
+        step->changes.Redo();
+    for (const auto& level : history.open)
+        level->changes.Redo();
+}
+
 History::History(IHistoryDocument* itsDocument) : document(itsDocument)
 {
 }

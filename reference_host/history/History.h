@@ -56,6 +56,20 @@ public:
         bool isOpen = true;
     };
 
+    /// Shows the document as it was before its first step, for as long as it lives. Nothing is changed or
+    /// undone meanwhile, and nobody is told.
+    class STYLEPROPERTIES_HOST_API Rewind
+    {
+    public:
+        explicit Rewind(History& itsHistory);
+        Rewind(const Rewind&) = delete;
+        Rewind& operator=(const Rewind&) = delete;
+        ~Rewind();
+
+    private:
+        History& history;
+    };
+
     /// `itsDocument` is borrowed and may be null.
     explicit History(IHistoryDocument* itsDocument = nullptr);
 

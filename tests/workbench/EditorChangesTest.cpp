@@ -64,6 +64,20 @@ TEST_F(ChangesOfAnEditor, CompareWithWhatWasBeforeTheFirstEdit)
     EXPECT_THAT(open.Changes(), ElementsAre("1/1 fill.color #3366cc -> #00ff00 Overridden"));
 }
 
+TEST_F(ChangesOfAnEditor, CompareWithTheDrawingAsItWasOpenedWhateverWasEditedInBetween)
+{
+    open.Select(L"sheet:Base");
+    open.Set(L"fill.color", L"yellow");
+    open.Select(L"name:A");
+    open.Set(L"fill.color", L"red");
+    EXPECT_THAT(open.Changes(), Contains("1/1 fill.color #3366cc -> #ff0000 Overridden"));
+
+    editor.Undo();
+    editor.Undo();
+
+    EXPECT_THAT(open.Changes(), IsEmpty());
+}
+
 TEST_F(ChangesOfAnEditor, AreGoneWhenTheEditIsUndoneAndBackWhenItIsRedone)
 {
     open.Select(L"name:A");

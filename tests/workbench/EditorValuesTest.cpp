@@ -300,4 +300,29 @@ TEST_F(DefiningAColour, RefusesAColourThatCannotBeReadAndAnEmptyName)
     EXPECT_EQ(open.GetSession().GetDrawing().GetPalette().size(), 1U);
 }
 
+TEST(NamingADefinition, TakesWhatTheDrawingDefinesAndTheEmptyNameForNone)
+{
+    OpenEditor open(
+        FourBoxes().Styles("<draw:stroke-dash draw:name='Long_20_One' draw:display-name='Long One'/>"
+                           "<draw:marker draw:name='Flow'/>"));
+
+    open.Set(L"outline.dash", L"Long One");
+    open.Set(L"outline.end-arrow", L"Flow");
+    open.Set(L"outline.start-arrow", L"");
+
+    EXPECT_EQ(open.ValueOf(L"outline.dash"), "Long One");
+    EXPECT_EQ(open.ValueOf(L"outline.end-arrow"), "Flow");
+}
+
+TEST(NamingADefinition, RefusesANameThatWouldLeadNowhere)
+{
+    OpenEditor open(
+        FourBoxes().Styles("<draw:stroke-dash draw:name='Long'/><draw:marker draw:name='Flow'/>"));
+
+    EXPECT_EQ(OpenEditor::ErrorOf([&] { open.Set(L"outline.dash", L"Flow"); }),
+              "outline.dash: the drawing defines no \"Flow\"; expected \"Long\"");
+    EXPECT_EQ(OpenEditor::ErrorOf([&] { open.Set(L"fill.hatch", L"Long"); }),
+              "fill.hatch: the drawing defines no \"Long\"; expected nothing, as it defines none");
+}
+
 } // namespace WorkbenchTests

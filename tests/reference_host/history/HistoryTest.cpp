@@ -290,3 +290,41 @@ TEST_F(History, TellsWhichWholeStylesAStepConcerns)
 
     EXPECT_THAT(concernsOnlyStyle, ElementsAre(true, false));
 }
+
+TEST_F(History, ShowsTheBeginningForAsLongAsItIsAskedTo)
+{
+    history.Open(L"Colour");
+    Write(L"color", 1);
+    history.Close();
+    history.Open(L"Angle");
+    Write(L"angle", 2);
+    history.Close();
+    history.Undo();
+    history.Open(L"Open");
+    Write(L"color", 3);
+
+    {
+        const ReferenceHost::History::Rewind beginning(history);
+        EXPECT_TRUE(Read(L"color").IsEmpty());
+    }
+
+    EXPECT_EQ(Read(L"color"), Number(3));
+    history.Cancel();
+    EXPECT_EQ(history.GetStepCount(), 1U);
+    EXPECT_TRUE(history.Redo());
+    EXPECT_EQ(Read(L"angle"), Number(2));
+}
+
+TEST_F(History, TellsNobodyThatItShowsTheBeginning)
+{
+    Write(L"color", 1);
+    history.EndLooseStep();
+    int heard = 0;
+    history.SetListener([&heard](HistoryEvent, const ReferenceHost::StepChanges&) { ++heard; });
+
+    {
+        const ReferenceHost::History::Rewind beginning(history);
+    }
+
+    EXPECT_EQ(heard, 0);
+}
