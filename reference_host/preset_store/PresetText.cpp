@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cwchar>
+#include <optional>
 
 namespace ReferenceHost
 {
@@ -28,15 +29,15 @@ std::wstring Escape(std::uint32_t character)
     return {digits, static_cast<std::size_t>(length)};
 }
 
-/// The character of an escape sequence at the front of `text`; 0 when there is none.
-wchar_t Unescape(std::string_view text)
+/// The character of an escape sequence at the front of `text`; none when there is no such sequence.
+std::optional<wchar_t> Unescape(std::string_view text)
 {
     unsigned value = 0;
     if (text.size() <= kDigits || text.front() != '%')
-        return 0;
+        return std::nullopt;
     const char* const end = text.data() + 1 + kDigits;
     const auto result = std::from_chars(text.data() + 1, end, value, 16);
-    return result.ptr == end ? static_cast<wchar_t>(value) : 0;
+    return result.ptr == end ? std::optional(static_cast<wchar_t>(value)) : std::nullopt;
 }
 
 } // namespace
@@ -62,9 +63,9 @@ OvxStringT FromPresetText(std::string_view text)
         text.remove_prefix(plain.size());
         if (text.empty())
             break;
-        const wchar_t character = Unescape(text);
-        restored += character == 0 ? L'%' : character;
-        text.remove_prefix(character == 0 ? 1 : 1 + kDigits);
+        const std::optional<wchar_t> character = Unescape(text);
+        restored += character.value_or(L'%');
+        text.remove_prefix(character ? 1 + kDigits : 1);
     }
     return restored;
 }

@@ -50,7 +50,8 @@ TEST(PresetFile, KeepsValuesOfEveryType)
 
 TEST(PresetFile, KeepsTextsWithAnyCharacter)
 {
-    const OvxStringT text(std::wstring(L"<a> & \"b\" 'c' 100% %00000A\n\t\r\x01\0\xFFFF end ", 45));
+    const std::wstring unusual{L'\x01', L'\0', L'\xFFFF'};
+    const OvxStringT text(L"<a> & \"b\" 'c' 100% %00000A\n\t\r" + unusual + L" end ");
 
     EXPECT_EQ(Through(Any(text)), Any(text));
 }
