@@ -128,6 +128,13 @@ void AutomaticStyleEdits::EditStyle(pugi::xml_node element, const StyleRecord& r
     for (AttributeEdit& attribute : attributes)
         edits.SetAttribute(element, std::move(attribute));
     writer.EditProperties(element, wish.changes, "style \"" + record.name + "\"", edits);
+    writer.EditRepeated(element, wish.repeated, edits);
+}
+
+PropertyValues AutomaticStyleEdits::FindRepeated(const StyleRecord& record,
+                                                 const PropertyValues& changes) const
+{
+    return writer.FindRepeated(content.FindElement(record.place), changes);
 }
 
 void AutomaticStyleEdits::Refer(const StyleReference& reference, const std::string& name)

@@ -44,6 +44,9 @@ public:
     /// The name of a new automatic style; equal ones are made once. What the wish wants gone it does not get.
     [[nodiscard]] std::string AddStyle(StyleFamily family, StyleWish wish);
 
+    /// The changes of a shape that its automatic text style repeats, see StyleElementEdits::EditRepeated().
+    [[nodiscard]] PropertyValues FindRepeated(const StyleRecord& record, const PropertyValues& changes) const;
+
     /// Makes the edits. Once, after all else.
     void Finish();
 

@@ -32,7 +32,14 @@ struct StyleWish
     /// Attributes of this host's own, by their local names; an empty value for one that goes.
     std::map<std::string, std::string> ownAttributes = {};
 
-    [[nodiscard]] bool IsEmpty() const { return changes.empty() && !parent && ownAttributes.empty(); }
+    /// What the style repeats of the shapes that it is the text style of, see
+    /// StyleElementEdits::EditRepeated().
+    PropertyValues repeated = {};
+
+    [[nodiscard]] bool IsEmpty() const
+    {
+        return changes.empty() && !parent && ownAttributes.empty() && repeated.empty();
+    }
 
     friend bool operator==(const StyleWish&, const StyleWish&) = default;
 };

@@ -18,6 +18,9 @@ namespace ReferenceHost
 namespace
 {
 
+/// The attribute of a shape that names the style of its text.
+constexpr std::string_view kTextStyleName = "text-style-name";
+
 bool WasAskedFor(DrawingObject& object)
 {
     const auto isMade = [](const TextUnit& unit) { return unit.FindStyle() != nullptr; };
@@ -136,7 +139,7 @@ void ShapeEdits::WriteShape(DrawingObject& object, pugi::xml_node element, const
     const auto inherited = EvaluateRecords(context, Styles::PropertyKey::Empty, parent, true, {}, style);
     TextLevels levels(context, *inherited);
     levels.AddLevel(reference, TextLevel::kOutermost);
-    const StyleReference text = ReferTo(element, Odf::kDraw, "text-style-name", StyleFamily::Paragraph);
+    const StyleReference text = ReferTo(element, Odf::kDraw, kTextStyleName, StyleFamily::Paragraph);
     if (text.record != nullptr)
         levels.AddLevel(text, 0);
     const std::size_t innermost = levels.GetLevels().size() - 1;
@@ -192,11 +195,14 @@ std::optional<std::string> ShapeEdits::FindOtherParent(const DrawingObject& obje
 
 void ShapeEdits::WriteLevels(TextLevels& levels, const StyleWish& ofShape)
 {
+    const PropertyValues changesOfShape = levels.GetLevels().front().changes;
     for (std::size_t place = 0; place < levels.GetLevels().size(); ++place)
     {
         TextLevel& level = levels.GetLevels()[place];
         StyleWish wish = place == 0 ? ofShape : StyleWish();
         wish.changes = std::move(level.changes);
+        if (level.automatic != nullptr && level.reference.local == kTextStyleName)
+            wish.repeated = automatic.FindRepeated(*level.automatic, changesOfShape);
         if (wish.IsEmpty())
             continue;
         // A shape's first automatic style names the parent that the shape has had without it.

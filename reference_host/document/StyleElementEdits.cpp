@@ -69,6 +69,21 @@ pugi::xml_node FirstChildElement(pugi::xml_node element)
     return element.find_child([](pugi::xml_node child) { return child.type() == pugi::node_element; });
 }
 
+/// The elements of a style that repeat graphic properties under another namespace than that of styles.
+std::vector<pugi::xml_node> FindExtensions(pugi::xml_node style)
+{
+    std::vector<pugi::xml_node> found;
+    for (const pugi::xml_node child : style.children())
+    {
+        if (child.type() != pugi::node_element)
+            continue;
+        const XmlName name = ResolveElement(child);
+        if (name.local == ElementName(PropertyElement::Graphic) && name.uri != Odf::kStyle)
+            found.push_back(child);
+    }
+    return found;
+}
+
 } // namespace
 
 void AddOwnAttributes(std::vector<AttributeEdit>& attributes, const StyleWish& wish)
@@ -111,6 +126,36 @@ void StyleElementEdits::EditProperties(pugi::xml_node style, const PropertyValue
                     edit.value.reset();
                 edits.SetAttribute(node, std::move(edit));
             }
+        }
+    }
+}
+
+PropertyValues StyleElementEdits::FindRepeated(pugi::xml_node style, const PropertyValues& changes) const
+{
+    const std::vector<pugi::xml_node> extensions = FindExtensions(style);
+    PropertyValues repeated;
+    for (const auto& [place, value] : changes)
+    {
+        const PropertyMapping& row = context.data.table.GetRows()[place];
+        if (row.element == PropertyElement::Graphic &&
+            FindPresent(extensions, row.namespaceUri, row.attribute))
+            repeated.emplace(place, value);
+    }
+    return repeated;
+}
+
+void StyleElementEdits::EditRepeated(pugi::xml_node style, const PropertyValues& changes,
+                                     XmlEdits& edits) const
+{
+    for (const pugi::xml_node extension : FindExtensions(style))
+    {
+        for (const auto& [place, value] : changes)
+        {
+            const PropertyMapping& row = context.data.table.GetRows()[place];
+            const pugi::xml_attribute present = FindXmlAttribute(extension, row.namespaceUri, row.attribute);
+            if (present)
+                edits.SetAttribute(extension, {row.namespaceUri, row.attribute,
+                                               FormatProperty(row, value, present.value(), names)});
         }
     }
 }

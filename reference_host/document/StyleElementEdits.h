@@ -32,6 +32,16 @@ public:
     void EditProperties(pugi::xml_node style, const PropertyValues& changes, const std::string& name,
                         XmlEdits& edits) const;
 
+    /// The changes of those graphic properties that a paragraph style repeats in an extension of
+    /// OpenDocument.
+    ///
+    /// Programs that write such an element beside the properties of the text believe it more than the graphic
+    /// style of the shape.
+    [[nodiscard]] PropertyValues FindRepeated(pugi::xml_node style, const PropertyValues& changes) const;
+
+    /// Changes what a paragraph style repeats.
+    void EditRepeated(pugi::xml_node style, const PropertyValues& changes, XmlEdits& edits) const;
+
     /// A new element of a style with these attributes and properties, for a place in `container`.
     [[nodiscard]] std::string WriteStyle(pugi::xml_node container, const std::string& elementName,
                                          const std::vector<AttributeEdit>& attributes,
