@@ -60,6 +60,7 @@ OvxStringT BaseStylePropertiesDatasource::PresetCategoryName() const
     return {};
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): fills the list that all panels share
 WCmnUI_List BaseStylePropertiesDatasource::GetPresetList()
 {
     const OvxStringT category = PresetCategoryName();

@@ -24,7 +24,7 @@ namespace
 class RaisedFlag
 {
 public:
-    explicit RaisedFlag(bool& raised) : flag(raised), before(raised) { flag = true; }
+    explicit RaisedFlag(bool& raised) : flag(raised), before(std::exchange(raised, true)) {}
 
     RaisedFlag(const RaisedFlag&) = delete;
     RaisedFlag& operator=(const RaisedFlag&) = delete;
@@ -266,8 +266,10 @@ void BaseStylePropertiesDatasource::ForwardToSiblings(const PendingWrite& write)
     for (std::size_t index = 0; index < siblings.size(); ++index)
     {
         const BaseStylePropertiesDatasource* sibling = siblings[index].sibling;
-        if (TakesPartAsSibling(sibling) && !sibling->isForwarding)
-            sibling->ModifyStyles(write.paths, CopyOf(write.values.get()), write.overridePaths);
+        if (!TakesPartAsSibling(sibling) || sibling->isForwarding)
+            continue;
+        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks): whoever is called owns the copy
+        sibling->ModifyStyles(write.paths, CopyOf(write.values.get()), write.overridePaths);
     }
 }
 

@@ -38,11 +38,10 @@ void SetShapeParent(std::vector<AttributeEdit>& attributes, const std::string& p
 AutomaticStyleEdits::AutomaticStyleEdits(const SavingContext& savingContext, SavedPart& contentPart,
                                          const SavedPart& namedPart,
                                          const std::unordered_map<std::string, std::string>& newNames)
-    : context(savingContext),
-      content(contentPart),
+    : content(contentPart),
       named(namedPart),
       renamed(newNames),
-      writer(savingContext, contentPart.GetSource(), savingContext.data.declared)
+      writer(savingContext, savingContext.data.declared)
 {
 }
 

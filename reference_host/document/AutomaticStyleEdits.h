@@ -72,7 +72,6 @@ private:
     void WriteAdded();
     [[nodiscard]] std::string UnusedName(StyleFamily family);
 
-    const SavingContext& context;
     SavedPart& content;
     const SavedPart& named;
     const std::unordered_map<std::string, std::string>& renamed;

@@ -39,9 +39,7 @@ std::string Quoted(const OvxStringT& name)
 } // namespace
 
 NamedStyleEdits::NamedStyleEdits(const SavingContext& savingContext, SavedPart& namedPart)
-    : context(savingContext),
-      part(namedPart),
-      writer(savingContext, namedPart.GetSource(), savingContext.data.namedDeclared)
+    : context(savingContext), part(namedPart), writer(savingContext, savingContext.data.namedDeclared)
 {
     NameStyles();
 }

@@ -93,9 +93,8 @@ void AddOwnAttributes(std::vector<AttributeEdit>& attributes, const StyleWish& w
             {OwnMarkup::kNamespace, local, value.empty() ? std::nullopt : std::optional(value)});
 }
 
-StyleElementEdits::StyleElementEdits(const SavingContext& savingContext, const XmlSource& xmlSource,
-                                     const DeclaredNames& declaredNames)
-    : context(savingContext), source(xmlSource), names(declaredNames)
+StyleElementEdits::StyleElementEdits(const SavingContext& savingContext, const DeclaredNames& declaredNames)
+    : context(savingContext), names(declaredNames)
 {
 }
 

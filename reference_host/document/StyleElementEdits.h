@@ -4,7 +4,6 @@
 #include "reference_host/document/SavingContext.h"
 #include "reference_host/document/StyleRecord.h"
 #include "reference_host/document/XmlEdits.h"
-#include "reference_host/document/XmlSource.h"
 
 #include <pugixml.hpp>
 
@@ -24,8 +23,7 @@ class StyleElementEdits
 {
 public:
     /// Borrows everything. `declaredNames` are those that the styles may refer to.
-    StyleElementEdits(const SavingContext& savingContext, const XmlSource& xmlSource,
-                      const DeclaredNames& declaredNames);
+    StyleElementEdits(const SavingContext& savingContext, const DeclaredNames& declaredNames);
 
     /// Changes what the properties of a style say; `name` is what warnings call the style. The style's own
     /// attributes are not looked at.
@@ -66,7 +64,6 @@ private:
                        const std::string& xml, XmlEdits& edits) const;
 
     const SavingContext& context;
-    const XmlSource& source;
     const DeclaredNames& names;
 };
 
