@@ -1,5 +1,7 @@
 #include "apps/workbench/DrawingStyles.h"
 
+#include "reference_host/document/DrawingObject.h"
+
 namespace Workbench
 {
 
@@ -21,6 +23,11 @@ bool DrawingStyles::IsHidden(const OvxStringT& styleName) const
 OvxStringT DrawingStyles::GetDisplayName(const OvxStringT& styleName) const
 {
     return drawing->GetDisplayName(styleName);
+}
+
+Styles::Style* DrawingStyles::GetObjectStyle(std::size_t object)
+{
+    return reinterpret_cast<ReferenceHost::DrawingObject*>(object)->GetStyle();
 }
 
 ReferenceHost::History& DrawingStyles::GetHistory()

@@ -28,6 +28,9 @@ public:
     [[nodiscard]] bool IsHidden(const OvxStringT& styleName) const override;
     [[nodiscard]] OvxStringT GetDisplayName(const OvxStringT& styleName) const override;
 
+    /// The number is the address of the object.
+    Styles::Style* GetObjectStyle(std::size_t object) override;
+
     ReferenceHost::IDocumentEditor* GetEditor() override { return this; }
 
     ReferenceHost::History& GetHistory() override;

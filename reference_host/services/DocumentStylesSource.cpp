@@ -4,6 +4,8 @@
 #include "reference_host/history/StepChanges.h"
 #include "reference_host/services/DocumentStyleModifier.h"
 #include "reference_host/services/IDocumentEditor.h"
+#include "reference_host/services/PresetApplication.h"
+#include "reference_host/services/PresetManager.h"
 #include "reference_host/services/StyleExtraction.h"
 #include "reference_host/services/TransactionOverrides.h"
 #include "reference_host/style_model/StyleResolution.h"
@@ -161,14 +163,34 @@ void DocumentStylesSource::SetParent(Style* target, Style* parent, bool /*reserv
         part->SetParent(parent);
 }
 
-void DocumentStylesSource::ApplyPresetToStyles(const OvxStringT& /*name*/, const OvxStringT& /*category*/,
-                                               const std::vector<Styles::Style*>& /*styles*/)
+void DocumentStylesSource::SetPresetCategory(const OvxStringT& presetCategory,
+                                             const Styles::PropertyKey& category)
 {
+    presetCategories[presetCategory] = category;
 }
 
-void DocumentStylesSource::ApplyPresetToObjects(const OvxStringT& /*name*/, const OvxStringT& /*category*/,
-                                                const std::vector<std::size_t>& /*objects*/)
+void DocumentStylesSource::ApplyPresetToStyles(const OvxStringT& name, const OvxStringT& category,
+                                               const std::vector<Style*>& styles)
 {
+    const auto known = presetCategories.find(category);
+    if (editor == nullptr || keeper == nullptr || known == presetCategories.end())
+        return;
+    const std::unique_ptr<Style> preset = keeper->LoadPreset(category, name);
+    const Style* const part = Styles::GetStyleOrSubstyle(preset.get(), known->second, false);
+    if (part == nullptr)
+        return;
+    const History::Step step(editor->GetHistory(), StepName(L"history.apply-preset"));
+    for (Style* const style : styles)
+        ApplyPreset(style, known->second, *part);
+}
+
+void DocumentStylesSource::ApplyPresetToObjects(const OvxStringT& name, const OvxStringT& category,
+                                                const std::vector<std::size_t>& objects)
+{
+    std::vector<Style*> styles;
+    for (const std::size_t object : objects)
+        styles.push_back(document.GetObjectStyle(object));
+    ApplyPresetToStyles(name, category, styles);
 }
 
 void DocumentStylesSource::FillPresetItems(std::vector<Styles::PresetListEntry> entries,

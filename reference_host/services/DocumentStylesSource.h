@@ -5,6 +5,7 @@
 #include "reference_host/services/IDocumentStyles.h"
 
 #include <cstddef>
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -12,6 +13,7 @@ namespace ReferenceHost
 {
 
 class DocumentStyleModifier;
+class PresetManager;
 class TransactionOverrides;
 
 /// The style source of one open document.
@@ -38,6 +40,13 @@ public:
     /// Tells what CreateStyle and ApplyStyle are about: the whole styles of the selected objects, or the
     /// named style that is selected. Borrowed until the next call; none at first.
     void SetSelectedStyles(std::vector<Styles::Style*> styles);
+
+    /// Sets where presets are taken from; borrowed, null for nowhere, as at first.
+    void SetPresetKeeper(PresetManager* newKeeper) noexcept { keeper = newKeeper; }
+
+    /// Tells which category the presets of a preset category are about: applying one changes that substyle
+    /// alone.
+    void SetPresetCategory(const OvxStringT& presetCategory, const Styles::PropertyKey& category);
 
     Styles::StyleSheet* GetStyleSheet() override;
 
@@ -75,11 +84,13 @@ public:
     /// Null clears the parent. A parent of one category becomes that of the substyle of a whole style.
     void SetParent(Styles::Style* target, Styles::Style* parent, bool reserved) override;
 
-    /// Applies nothing.
+    /// Gives each style, or its substyle of the category that the presets are about, what the preset sets;
+    /// the category's other properties are inherited from then on. A preset that is not there, and a preset
+    /// category that nobody told about, change nothing.
     void ApplyPresetToStyles(const OvxStringT& name, const OvxStringT& category,
                              const std::vector<Styles::Style*>& styles) override;
 
-    /// Applies nothing.
+    /// The same for the styles of objects.
     void ApplyPresetToObjects(const OvxStringT& name, const OvxStringT& category,
                               const std::vector<std::size_t>& objects) override;
 
@@ -103,6 +114,8 @@ private:
     IDocumentStyles& document;
     IDocumentEditor* editor;                         ///< Of the document; null when it cannot be changed.
     std::unique_ptr<DocumentStyleModifier> modifier; ///< Null without an editor.
+    PresetManager* keeper = nullptr;                 ///< Borrowed; may be null.
+    std::map<OvxStringT, Styles::PropertyKey> presetCategories;
     std::vector<Styles::Style*> selectedStyles;
     std::size_t groupCount = 0;                      ///< Groups that were begun and not ended.
     std::unique_ptr<TransactionOverrides> overrides; ///< Null while no group is open.

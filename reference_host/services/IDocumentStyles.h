@@ -5,6 +5,7 @@
 #include "host/style_model/StyleSheet.h"
 #include "host/utils/OvxStringT.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace ReferenceHost
@@ -29,6 +30,10 @@ public:
 
     /// What people see for a named style; a name that the document does not know comes back as it is.
     [[nodiscard]] virtual OvxStringT GetDisplayName(const OvxStringT& styleName) const = 0;
+
+    /// The whole style of an object, by the number under which objects are handed in to panels; null, as it
+    /// is unless a document says otherwise, for a number that stands for none.
+    virtual Styles::Style* GetObjectStyle(std::size_t /*object*/) { return nullptr; }
 
     /// How the document is changed; null, which it is unless a document says otherwise, when it is not.
     virtual IDocumentEditor* GetEditor() { return nullptr; }

@@ -36,6 +36,14 @@ public:
         return drawing.GetDisplayName(name);
     }
 
+    /// Objects are known by the addresses of their styles here.
+    Styles::Style* GetObjectStyle(std::size_t object) override
+    {
+        return reinterpret_cast<Styles::Style*>(object);
+    }
+
+    static std::size_t NumberOf(Styles::Style* style) { return reinterpret_cast<std::size_t>(style); }
+
     ReferenceHost::IDocumentEditor* GetEditor() override { return this; }
 
     ReferenceHost::History& GetHistory() override { return drawing.GetHistory(); }
