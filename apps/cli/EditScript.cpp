@@ -11,7 +11,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -73,27 +72,36 @@ class GroupCheck
 public:
     void Take(const ScriptCommand& each, const std::string& verb)
     {
-        if (openSince && !BelongsInGroups(each.command))
+        if (isOpen && !BelongsInGroups(each.command))
             throw UsageError(verb + " cannot stand in a group, and there is one since line " +
-                             std::to_string(*openSince) + "; expected end-group before it");
+                             std::to_string(beginLine) + "; expected end-group before it");
         if (std::holds_alternative<BeginGroupCommand>(each.command))
-            openSince = each.line;
+            Begin(each.line);
         if (std::holds_alternative<EndGroupCommand>(each.command))
             End();
     }
 
-    /// The line on which a group begins that is still open.
-    [[nodiscard]] std::optional<std::size_t> GetOpen() const { return openSince; }
+    [[nodiscard]] bool IsOpen() const { return isOpen; }
+
+    /// The line on which the open group begins; meaningless without one.
+    [[nodiscard]] std::size_t GetBeginLine() const { return beginLine; }
 
 private:
-    void End()
+    void Begin(std::size_t line)
     {
-        if (!openSince)
-            throw UsageError("no group is open; expected begin-group before end-group");
-        openSince.reset();
+        isOpen = true;
+        beginLine = line;
     }
 
-    std::optional<std::size_t> openSince;
+    void End()
+    {
+        if (!isOpen)
+            throw UsageError("no group is open; expected begin-group before end-group");
+        isOpen = false;
+    }
+
+    bool isOpen = false;
+    std::size_t beginLine = 0;
 };
 
 DocumentError TooLarge(const std::string& name)
@@ -160,8 +168,8 @@ EditScript ParseEditScript(const std::string& name, std::string_view text)
             throw ScriptError(name, number, error.what());
         }
     }
-    if (groups.GetOpen())
-        throw ScriptError(name, *groups.GetOpen(), "the group is never closed; expected end-group");
+    if (groups.IsOpen())
+        throw ScriptError(name, groups.GetBeginLine(), "the group is never closed; expected end-group");
     return script;
 }
 
