@@ -32,13 +32,16 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
     reference_host/document/PropertyMapping.h
     reference_host/document/TextUnit.h
     reference_host/history/History.h
+    reference_host/preset_store/PresetPicture.h
+    reference_host/preset_store/PresetReports.h
     reference_host/resources/Language.h
     reference_host/services/ActiveStyleSource.h
     reference_host/services/Application.h
     reference_host/services/DataContext.h
     reference_host/services/DocumentStylesSource.h
     reference_host/services/HostObject.h
-    reference_host/services/IConfirmation.h
+    reference_host/services/DialogService.h
+    reference_host/services/IDialogFrontEnd.h
     reference_host/services/IDocumentEditor.h
     reference_host/services/IDocumentStyles.h
     reference_host/services/Idle.h

@@ -24,7 +24,9 @@ constexpr OvxStringViewT kNamesThatDependOnTargets[] = {L"RevertToParentEnable",
                                                         L"IsObjectStyle",        L"IsStyle",
                                                         L"IsStyleOrDefault",     L"EditStyleEnable",
                                                         L"RevertToMenuString",   L"ApplyToMenuString",
-                                                        L"EditStyleMenuString",  L"EnableStyleEditing"};
+                                                        L"EditStyleMenuString",  L"EnableStyleEditing",
+                                                        L"StyleResourceList",    L"CurrentPreset",
+                                                        L"AddPresetEnabled",     L"DeletePresetEnabled"};
 
 PropertyPath ParsePath(OvxStringViewT identifier)
 {
@@ -44,6 +46,12 @@ OvxStringT LinkOf(const Any& value)
 }
 
 } // namespace
+
+void PanelDatasource::PostConstruct()
+{
+    BaseStylePropertiesDatasource::PostConstruct();
+    presetSubscription.Start(PresetCategoryName(), [this] { OnPresetsListUpdated(); });
+}
 
 void PanelDatasource::RegisterRows(std::span<const PanelRow> newRows)
 {

@@ -7,6 +7,7 @@
 #include "host/utils/OvxStringT.h"
 #include "host/utils/OvxStringViewT.h"
 #include "host/utils/RepeatingCallback.h"
+#include "panels/PresetSubscription.h"
 #include "panels/ValueOrigin.h"
 
 #include <deque>
@@ -56,6 +57,8 @@ struct PanelRow
 /// takes their own away. A plain colour that looks like the palette colour which the targets share keeps
 /// their link: only the break command ends it. Nothing is notified for a write; whoever owns the targets
 /// hands them in anew.
+///
+/// A panel that names a preset category listens for changes of its presets, and announces "PresetList" then.
 class PanelDatasource : public BaseStylePropertiesDatasource
 {
 public:
@@ -69,6 +72,10 @@ public:
 
 protected:
     PanelDatasource() = default;
+
+    /// Begins to listen for presets, after what the base does. Called once by the framework; an override
+    /// calls it.
+    void PostConstruct() override;
 
     /// Binds the names of `newRows`, row by row. For FillDataSourceMap() of the derived class, once.
     void RegisterRows(std::span<const PanelRow> newRows);
@@ -139,6 +146,8 @@ private:
 
     /// The names that new targets are announced with, joined by commas.
     OvxStringT announcedNames;
+
+    PresetSubscription presetSubscription;
 };
 
 } // namespace Panels

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "host/Export.h"
+#include "host/utils/Any.h"
 #include "host/utils/OvxStringT.h"
 
 #include <utility>
 
-/// One entry of a list that the user interface shows. A plain value; compared by text and index.
+/// One entry of a list that the user interface shows. A plain value; compared by text and index, which stand
+/// for the entry, and not by the picture, which goes with them.
 class STYLEPROPERTIES_HOST_API WCmnUI_ListItem
 {
 public:
@@ -21,9 +23,19 @@ public:
 
     void SetIndex(int newIndex) noexcept { index = newIndex; }
 
-    friend bool operator==(const WCmnUI_ListItem&, const WCmnUI_ListItem&) = default;
+    /// What the user interface draws beside the text, in a type that it and whoever fills lists agree on;
+    /// empty for nothing.
+    [[nodiscard]] const OvxUtils::Any& GetPicture() const noexcept { return picture; }
+
+    void SetPicture(OvxUtils::Any newPicture) { picture = std::move(newPicture); }
+
+    friend bool operator==(const WCmnUI_ListItem& left, const WCmnUI_ListItem& right)
+    {
+        return left.text == right.text && left.index == right.index;
+    }
 
 private:
     OvxStringT text;
     int index = -1;
+    OvxUtils::Any picture;
 };

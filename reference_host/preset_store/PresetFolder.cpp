@@ -124,6 +124,14 @@ std::unique_ptr<Styles::Style> PresetFolder::Load(const OvxStringT& name) const
     return found == entries.end() ? nullptr : std::move(found->style);
 }
 
+std::map<OvxStringT, std::unique_ptr<Styles::Style>> PresetFolder::LoadAll() const
+{
+    std::map<OvxStringT, std::unique_ptr<Styles::Style>> presets;
+    for (Entry& entry : Read())
+        presets.emplace(std::move(entry.name), std::move(entry.style));
+    return presets;
+}
+
 /// Empty without a preset of that name.
 std::filesystem::path PresetFolder::FindFile(const OvxStringT& name) const
 {

@@ -5,6 +5,7 @@
 #include "host/utils/OvxStringT.h"
 
 #include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,6 +31,9 @@ public:
 
     /// A copy of the preset; null when there is none of that name.
     [[nodiscard]] std::unique_ptr<Styles::Style> Load(const OvxStringT& name) const;
+
+    /// Copies of all presets, by name.
+    [[nodiscard]] std::map<OvxStringT, std::unique_ptr<Styles::Style>> LoadAll() const;
 
     /// Keeps a preset in the file `fileName`, or in that which holds the name already. With `replace` false a
     /// name that is there is left as it is.

@@ -6,6 +6,7 @@
 #include "host/services/IOrvexCmn_App.h"
 #include "host/style_model/IStylesSource.h"
 #include "reference_host/services/ActiveStyleSource.h"
+#include "reference_host/services/DialogService.h"
 #include "reference_host/services/IDocumentStyles.h"
 #include "reference_host/services/StylesApplication.h"
 #include "reference_host/services/UserInterface.h"
@@ -41,6 +42,12 @@ public:
 
     [[nodiscard]] IAppInterface& GetUserInterface() noexcept { return userInterface; }
 
+    /// What contexts of this application show dialogs with, and what its questions go through.
+    [[nodiscard]] DialogService& GetDialogs() noexcept { return dialogs; }
+
+    /// Where the presets of this application are kept.
+    [[nodiscard]] PresetManager& GetPresets() noexcept { return styles.GetPresets(); }
+
     /// Answers the identifier of IStylesSourceApp.
     void QueryInterface(const InterfaceId& id, void** out) override;
 
@@ -51,6 +58,7 @@ private:
     StylesApplication styles;
     ActiveStyleSource activeSource;
     UserInterface userInterface;
+    DialogService dialogs;
 };
 
 } // namespace ReferenceHost

@@ -2,6 +2,7 @@
 
 #include "reference_host/history/History.h"
 #include "reference_host/history/StepChanges.h"
+#include "reference_host/preset_store/PresetPicture.h"
 #include "reference_host/services/DocumentStyleModifier.h"
 #include "reference_host/services/IDocumentEditor.h"
 #include "reference_host/services/PresetApplication.h"
@@ -194,14 +195,20 @@ void DocumentStylesSource::ApplyPresetToObjects(const OvxStringT& name, const Ov
 }
 
 void DocumentStylesSource::FillPresetItems(std::vector<Styles::PresetListEntry> entries,
-                                           const OvxStringT& /*category*/)
+                                           const OvxStringT& category)
 {
+    std::map<OvxStringT, std::unique_ptr<Style>> presets;
+    if (keeper != nullptr && !entries.empty())
+        presets = keeper->LoadPresets(category);
     for (const Styles::PresetListEntry& entry : entries)
     {
         if (entry.item == nullptr)
             continue;
         entry.item->SetText(entry.name);
         entry.item->SetIndex(static_cast<int>(entry.position));
+        const auto preset = presets.find(entry.name);
+        if (preset != presets.end())
+            entry.item->SetPicture(OvxUtils::Any(DescribePicture(*preset->second)));
     }
 }
 

@@ -94,7 +94,8 @@ public:
     void ApplyPresetToObjects(const OvxStringT& name, const OvxStringT& category,
                               const std::vector<std::size_t>& objects) override;
 
-    /// Gives each item the name of its preset as its text and its position as its index.
+    /// Gives each item the name of its preset as its text, its position as its index, and a PresetPicture
+    /// where the preset can be read.
     void FillPresetItems(std::vector<Styles::PresetListEntry> entries, const OvxStringT& category) override;
 
     /// Opens a step of history, or one within that which is open. Groups nest.

@@ -1,28 +1,11 @@
 #include "host/services/MessageMgr.h"
 
-#include "reference_host/services/IConfirmation.h"
-
-#include <utility>
-
-namespace ReferenceHost
-{
-
-namespace
-{
-
-constinit IConfirmation* confirmation = nullptr;
-
-} // namespace
-
-IConfirmation* SetConfirmation(IConfirmation* frontEnd) noexcept
-{
-    return std::exchange(confirmation, frontEnd);
-}
-
-} // namespace ReferenceHost
+#include "reference_host/services/Application.h"
+#include "reference_host/services/IDialogFrontEnd.h"
 
 int MessageMgr::ShowConfirmation(const OvxStringT& text, int flags)
 {
     using namespace ReferenceHost;
-    return confirmation == nullptr ? kAnswerNo : confirmation->Confirm(text, flags);
+    Application* application = Application::GetCurrent();
+    return application == nullptr ? kAnswerNo : application->GetDialogs().Confirm(text, flags);
 }

@@ -6,6 +6,8 @@
 #include "reference_host/preset_store/PresetFolder.h"
 #include "reference_host/services/NativePaths.h"
 
+#include <optional>
+
 namespace ReferenceHost
 {
 
@@ -13,6 +15,14 @@ namespace
 {
 
 constexpr auto kLocation = Styles::PresetLocation::CustomConfiguration;
+
+/// None where nothing says where configuration lies.
+std::optional<PresetFolder> FolderAt(const OvxStringT& directory, const OvxStringT& folder)
+{
+    if (directory.empty())
+        return std::nullopt;
+    return PresetFolder(PathFromText(directory) / PathFromText(folder));
+}
 
 } // namespace
 
@@ -22,11 +32,15 @@ PresetManager::~PresetManager() = default;
 
 std::unique_ptr<Styles::Style> PresetManager::LoadPreset(const OvxStringT& category, const OvxStringT& name)
 {
-    const OvxStringT directory = GetCustomConfigurationDirectory();
-    if (directory.empty())
-        return nullptr;
-    return PresetFolder(PathFromText(directory) / PathFromText(GetPresetFolder(kLocation, category)))
-        .Load(name);
+    const auto folder = FolderAt(GetCustomConfigurationDirectory(), GetPresetFolder(kLocation, category));
+    return folder ? folder->Load(name) : nullptr;
+}
+
+std::map<OvxStringT, std::unique_ptr<Styles::Style>>
+PresetManager::LoadPresets(const OvxStringT& category)
+{
+    const auto folder = FolderAt(GetCustomConfigurationDirectory(), GetPresetFolder(kLocation, category));
+    return folder ? folder->LoadAll() : std::map<OvxStringT, std::unique_ptr<Styles::Style>>();
 }
 
 OvxStringT PresetManager::GetPresetFolder(Styles::PresetLocation location, OvxStringT category)

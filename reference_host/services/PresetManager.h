@@ -4,6 +4,7 @@
 #include "host/style_model/Style.h"
 #include "host/style_model/StylePresetManager.h"
 
+#include <map>
 #include <memory>
 
 namespace ReferenceHost
@@ -20,6 +21,10 @@ public:
     /// A copy of a preset; null when there is none of that name.
     [[nodiscard]] std::unique_ptr<Styles::Style> LoadPreset(const OvxStringT& category,
                                                             const OvxStringT& name);
+
+    /// Copies of all presets of a category, by name.
+    [[nodiscard]] std::map<OvxStringT, std::unique_ptr<Styles::Style>>
+    LoadPresets(const OvxStringT& category);
 
 protected:
     /// Relative to the configuration's folder; presets are kept in no other place.

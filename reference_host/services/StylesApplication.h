@@ -22,6 +22,9 @@ public:
     /// Sets the open document; borrowed until it is replaced, null for none.
     void SetDocument(const IDocumentStyles* openDocument) noexcept;
 
+    /// As GetStylePresetManager, for who loads presets.
+    [[nodiscard]] PresetManager& GetPresets() noexcept { return presets; }
+
     bool IsExcludedStyleName(const OvxStringT& name) override;
     OvxStringT GetDisplayStyleName(const OvxStringT& name) override;
     Styles::StylePresetManager& GetStylePresetManager() override;

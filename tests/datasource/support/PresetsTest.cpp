@@ -32,16 +32,6 @@ OvxStringT RecordingPresetManager::GetCustomConfigurationDirectory()
     return ReferenceHost::PathToText(folder);
 }
 
-RecordingConfirmation::RecordingConfirmation(CallLog& callLog)
-    : log(callLog), before(ReferenceHost::SetConfirmation(this))
-{
-}
-
-RecordingConfirmation::~RecordingConfirmation()
-{
-    ReferenceHost::SetConfirmation(before);
-}
-
 int RecordingConfirmation::Confirm(const OvxStringT& text, int flags)
 {
     log.Add("confirm(" + Describe(text) + ", " + std::to_string(flags) + ")");
@@ -55,6 +45,7 @@ PresetsTest::PresetsTest()
     log.SetName(&context, "context");
     context.dialogs = &dialogs;
     application.SetObjectPropertiesContext(&context);
+    application.GetDialogs().SetFrontEnd(&confirmation);
     dialogSource.reset(IDataSourceRegistrar::GetInstance().FindFactory(L"StylePresets")->Create(&context));
     context.dataSources[L"StylePresets"] = dialogSource.get();
     panel.presetCategory = L"FillPresets";

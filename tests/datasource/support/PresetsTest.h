@@ -5,7 +5,7 @@
 #include "host/data_binding/IReflectable.h"
 #include "host/style_model/StylePresetManager.h"
 #include "reference_host/services/Application.h"
-#include "reference_host/services/IConfirmation.h"
+#include "reference_host/services/IDialogFrontEnd.h"
 #include "tests/datasource/support/HostedTest.h"
 #include "tests/datasource/support/RecordingContext.h"
 
@@ -36,11 +36,15 @@ private:
 };
 
 /// Answers questions as the test has set, and takes them down.
-class RecordingConfirmation final : public ReferenceHost::IConfirmation
+class RecordingConfirmation final : public ReferenceHost::IDialogFrontEnd
 {
 public:
-    explicit RecordingConfirmation(CallLog& callLog);
-    ~RecordingConfirmation();
+    explicit RecordingConfirmation(CallLog& callLog) : log(callLog) {}
+
+    /// The dialogs of these tests are shown by RecordingDialogs.
+    void ShowDialog(const OvxStringT& /*key*/, IDataContext* /*context*/) override {}
+
+    void CloseDialog(const OvxStringT& /*key*/, bool /*isAccepted*/) override {}
 
     int Confirm(const OvxStringT& text, int flags) override;
 
@@ -48,7 +52,6 @@ public:
 
 private:
     CallLog& log;
-    ReferenceHost::IConfirmation* before;
 };
 
 /// A fill panel that offers presets under "FillPresets", in the host's current context, in which the data

@@ -1,3 +1,4 @@
+#include "reference_host/preset_store/PresetPicture.h"
 #include "reference_host/services/PresetManager.h"
 #include "tests/reference_host/document/ScratchFolder.h"
 #include "tests/reference_host/services/EditedDrawing.h"
@@ -96,4 +97,27 @@ TEST_F(AppliedPreset, ReachesObjectsByTheirNumbers)
 
     EXPECT_EQ(ValueOf(2, L"fill", L"color"), Colour(0x44));
     EXPECT_EQ(history.GetStepCount(), 1U);
+}
+
+TEST_F(AppliedPreset, IsListedWithItsNamePlaceAndPicture)
+{
+    WCmnUI_ListItem item;
+
+    source.FillPresetItems({{L"Glow", &item, 3}}, L"FillPresets");
+
+    EXPECT_EQ(item.GetText(), OvxStringT(L"Glow"));
+    EXPECT_EQ(item.GetIndex(), 3);
+    const auto* picture = item.GetPicture().TryGet<ReferenceHost::PresetPicture>();
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->outline.widthInHundredthMm, 900);
+}
+
+TEST_F(AppliedPreset, IsListedWithoutAPictureWhenItIsGone)
+{
+    WCmnUI_ListItem item;
+
+    source.FillPresetItems({{L"Gone", &item, 0}}, L"FillPresets");
+
+    EXPECT_EQ(item.GetText(), OvxStringT(L"Gone"));
+    EXPECT_TRUE(item.GetPicture().IsEmpty());
 }
