@@ -39,11 +39,27 @@ CLI::App* AddStyles(CLI::App& app, StylesOptions& options)
     return command;
 }
 
-/// The help of the innermost command that was named.
+/// The innermost command that was named, and its name with those of the commands round it.
+struct NamedCommand
+{
+    const CLI::App* command;
+    std::string name;
+};
+
+NamedCommand FindNamedCommand(const CLI::App& app)
+{
+    NamedCommand found{&app, app.get_name()};
+    for (auto named = app.get_subcommands(); !named.empty(); named = found.command->get_subcommands())
+        found = {named.front(), found.name + " " + named.front()->get_name()};
+    return found;
+}
+
 std::string HelpOf(const CLI::App& app)
 {
-    const auto subcommands = app.get_subcommands();
-    return subcommands.empty() ? app.help() : subcommands.front()->help(app.get_name());
+    const NamedCommand found = FindNamedCommand(app);
+    if (found.command == &app)
+        return app.help();
+    return found.command->help(found.name.substr(0, found.name.find_last_of(' ')));
 }
 
 } // namespace
@@ -76,9 +92,8 @@ Command ParseCommandLine(int argumentCount, const char* const* arguments)
     }
     catch (const CLI::ParseError& error)
     {
-        const auto subcommands = app.get_subcommands();
-        const std::string name = subcommands.empty() ? std::string() : " " + subcommands.front()->get_name();
-        throw Workbench::UsageError(std::string(error.what()) + "; see styleprops" + name + " --help");
+        throw Workbench::UsageError(std::string(error.what()) + "; see " + FindNamedCommand(app).name +
+                                    " --help");
     }
     if (inspectCommand->parsed())
         return inspect;

@@ -66,13 +66,22 @@ struct ScriptOptions
     std::string script; ///< A file, or "-" for the standard input.
 };
 
+/// styleprops style-list, presets list, ...: one command that changes no drawing.
+struct AskOptions
+{
+    DrawingOptions drawing; ///< Its file is empty for commands that need no drawing.
+    std::string selector = "all";
+    EditingCommand command;
+};
+
 /// A text that was asked for in place of work: help or the version.
 struct InformationText
 {
     std::string text;
 };
 
-using Command = std::variant<InspectOptions, StylesOptions, EditOptions, ScriptOptions, InformationText>;
+using Command =
+    std::variant<InspectOptions, StylesOptions, EditOptions, ScriptOptions, AskOptions, InformationText>;
 
 /// Reads the command line of the tool.
 ///

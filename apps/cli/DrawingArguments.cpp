@@ -25,6 +25,11 @@ constexpr const char* kSelectorHelp =
 void DeclareDrawing(CLI::App& command, DrawingOptions& options)
 {
     command.add_option("FILE", options.file, "A drawing: .fodg, .odg or .otg")->required()->option_text(" ");
+    DeclareReport(command, options);
+}
+
+void DeclareReport(CLI::App& command, DrawingOptions& options)
+{
     command.add_flag("--json", options.isJson, "Write JSON for programs");
     command
         .add_option("--panels", options.panelFolder,

@@ -1,5 +1,6 @@
 #include "apps/cli/EditReport.h"
 
+#include "apps/cli/AnswerReport.h"
 #include "apps/cli/JsonReport.h"
 #include "apps/cli/TextReport.h"
 #include "apps/workbench/PanelReading.h"
@@ -107,18 +108,6 @@ OvxStringT SavingToText(const EditResult& result)
     return Fill(L"edit.saved-as", {file, PathToText(result.savedAs)});
 }
 
-/// What a command told. Each answer is laid out by itself: its columns are no one else's.
-std::vector<TextLine> AnswerToText(const EditAnswer& answer, const std::filesystem::path& file)
-{
-    if (const auto* created = std::get_if<CreatedStyle>(&answer.content))
-        return {{{{Fill(L"edit.created", {created->name}), OutputRole::Plain}}, 0}};
-    if (const auto* opened = std::get_if<OpenedStyle>(&answer.content))
-        return {{{{Fill(L"edit.opened", {opened->name}), OutputRole::Plain}}, 0}};
-    std::vector<TextLine> lines = ReportToText(file, std::get<Workbench::Report>(answer.content));
-    lines.push_back({});
-    return lines;
-}
-
 std::vector<TextLine> ChangesToText(const EditResult& result,
                                     const std::vector<Workbench::PanelDescription>& panels)
 {
@@ -160,7 +149,7 @@ std::string EditResultToJson(const EditResult& result)
         nlohmann::ordered_json told;
         if (result.isScript)
             told["line"] = answer.line;
-        AddAnswer(result.isScript ? told : members, answer);
+        (result.isScript ? told : members).update(AnswerToJson(answer));
         if (result.isScript)
             members["answers"].push_back(std::move(told));
     }

@@ -65,6 +65,44 @@ struct Performer
         return OpenedStyle{editor.EditStyle(command.panel)};
     }
 
+    Told operator()(const StyleListCommand& command) const
+    {
+        return editor.ListStyles(command.panel, command.part);
+    }
+
+    Told operator()(const RestyleCommand& command) const
+    {
+        return editor.Restyle(command.panel, command.pick);
+    }
+
+    Told operator()(const PresetListCommand& command) const
+    {
+        return ListedPresets{command.panel, editor.ListPresets(command.panel)};
+    }
+
+    Told operator()(const PresetShowCommand& command) const
+    {
+        return ShownPreset{command.panel, command.name, editor.DescribePreset(command.panel, command.name)};
+    }
+
+    Told operator()(const PresetApplyCommand& command) const
+    {
+        editor.ApplyPreset(command.panel, command.name);
+        return kNothing;
+    }
+
+    Told operator()(const PresetAddCommand& command) const
+    {
+        const bool isReplaced = editor.AddPreset(command.panel, command.name, command.mayReplace);
+        return AddedPreset{command.panel, command.name, isReplaced};
+    }
+
+    Told operator()(const PresetDeleteCommand& command) const
+    {
+        editor.DeletePreset(command.panel, command.name);
+        return DeletedPreset{command.panel, command.name};
+    }
+
     Told operator()(const PaletteCommand& command) const
     {
         editor.DefineColours(command.colours);

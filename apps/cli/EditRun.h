@@ -1,38 +1,17 @@
 #pragma once
 
+#include "apps/cli/EditAnswer.h"
 #include "apps/cli/EditScript.h"
 #include "apps/cli/EditingCommand.h"
 #include "apps/workbench/Editor.h"
 #include "apps/workbench/PanelFolder.h"
-#include "apps/workbench/Report.h"
 #include "apps/workbench/Session.h"
-#include "host/utils/OvxStringT.h"
 
 #include <cstddef>
-#include <variant>
 #include <vector>
 
 namespace Cli
 {
-
-/// create-style made a style.
-struct CreatedStyle
-{
-    OvxStringT name;
-};
-
-/// edit-style opened a style.
-struct OpenedStyle
-{
-    OvxStringT name;
-};
-
-/// What a command tells beside what it changes.
-struct EditAnswer
-{
-    std::size_t line = 0; ///< The line of a script; 0 outside of one.
-    std::variant<CreatedStyle, OpenedStyle, Workbench::Report> content; ///< A report for show.
-};
 
 /// Does commands on an open drawing, and gathers what they tell.
 class EditRun

@@ -54,16 +54,21 @@ void CheckLine(std::string_view line, std::size_t number)
         throw UsageError("the line holds a zero byte; expected text");
 }
 
+template <class... Commands>
+bool IsOneOf(const EditingCommand& command)
+{
+    return (std::holds_alternative<Commands>(command) || ...);
+}
+
 /// Tells whether a command belongs to what a group gathers. The others look at the drawing, choose what is
 /// edited or go through the steps, none of which can be done in the middle of one.
 bool BelongsInGroups(const EditingCommand& command)
 {
-    const bool isChoice =
-        std::holds_alternative<SelectCommand>(command) || std::holds_alternative<EditStyleCommand>(command);
-    const bool isStepping = std::holds_alternative<UndoCommand>(command) ||
-                            std::holds_alternative<RedoCommand>(command) ||
-                            std::holds_alternative<BeginGroupCommand>(command);
-    return !isChoice && !isStepping && !std::holds_alternative<ShowCommand>(command);
+    const bool isChoice = IsOneOf<SelectCommand, EditStyleCommand>(command);
+    const bool isStepping = IsOneOf<UndoCommand, RedoCommand, BeginGroupCommand>(command);
+    const bool isLook = IsOneOf<ShowCommand, StyleListCommand, PresetListCommand, PresetShowCommand,
+                                PresetAddCommand, PresetDeleteCommand>(command);
+    return !isChoice && !isStepping && !isLook;
 }
 
 /// Follows the groups of a script from line to line.

@@ -18,4 +18,9 @@ void RunEdit(const EditOptions& options);
 /// @throws as RunEdit() does; ScriptError for what is wrong with the script.
 void RunEditScript(const ScriptOptions& options);
 
+/// Runs one command that changes no drawing, and writes what it tells.
+///
+/// @throws as RunEdit() does.
+void RunAsk(const AskOptions& options);
+
 } // namespace Cli

@@ -2,6 +2,8 @@
 
 #include "apps/workbench/Change.h"
 #include "apps/workbench/Selector.h"
+#include "apps/workbench/StyleList.h"
+#include "apps/workbench/StylePick.h"
 #include "host/utils/OvxStringT.h"
 
 #include <optional>
@@ -54,6 +56,55 @@ struct EditStyleCommand
     OvxStringT panel;
 };
 
+/// style-list --panel PANEL [--more]
+struct StyleListCommand
+{
+    OvxStringT panel;
+    Workbench::StyleListPart part = Workbench::StyleListPart::Main;
+};
+
+/// restyle NAME|--id N|--none --panel PANEL
+struct RestyleCommand
+{
+    OvxStringT panel;
+    Workbench::StylePick pick;
+};
+
+/// presets list --panel PANEL
+struct PresetListCommand
+{
+    OvxStringT panel;
+};
+
+/// presets show NAME --panel PANEL
+struct PresetShowCommand
+{
+    OvxStringT panel;
+    OvxStringT name;
+};
+
+/// presets apply NAME --panel PANEL
+struct PresetApplyCommand
+{
+    OvxStringT panel;
+    OvxStringT name;
+};
+
+/// presets add NAME --panel PANEL [--yes|--no]
+struct PresetAddCommand
+{
+    OvxStringT panel;
+    OvxStringT name;
+    std::optional<bool> mayReplace; ///< None: ask.
+};
+
+/// presets delete NAME --panel PANEL
+struct PresetDeleteCommand
+{
+    OvxStringT panel;
+    OvxStringT name;
+};
+
 /// palette NAME=COLOUR...
 struct PaletteCommand
 {
@@ -96,7 +147,8 @@ struct ShowCommand
 /// One command of an editing session.
 using EditingCommand =
     std::variant<SetCommand, ClearCommand, RevertCommand, ApplyToParentCommand, BreakLinkCommand,
-                 CreateStyleCommand, EditStyleCommand, PaletteCommand, SelectCommand, UndoCommand,
-                 RedoCommand, BeginGroupCommand, EndGroupCommand, ShowCommand>;
+                 CreateStyleCommand, EditStyleCommand, StyleListCommand, RestyleCommand, PresetListCommand,
+                 PresetShowCommand, PresetApplyCommand, PresetAddCommand, PresetDeleteCommand, PaletteCommand,
+                 SelectCommand, UndoCommand, RedoCommand, BeginGroupCommand, EndGroupCommand, ShowCommand>;
 
 } // namespace Cli

@@ -5,6 +5,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstddef>
+
 namespace Cli
 {
 namespace
@@ -51,6 +53,17 @@ void CheckOutput(const OutputOptions& output, const std::string& verb)
         throw UsageError("--backup keeps what a file was; expected it beside --in-place" + help);
 }
 
+/// The command that holds the commands of a group; made with the first of them.
+CLI::App& NeedGroup(CLI::App& app, const std::string& name)
+{
+    const auto found = app.get_subcommands([&](const CLI::App* each) { return each->get_name() == name; });
+    if (!found.empty())
+        return *found.front();
+    CLI::App& group = *app.add_subcommand(name, "Keep looks under a name, and use them in any drawing");
+    group.require_subcommand(1);
+    return group;
+}
+
 } // namespace
 
 EditingCommandLine::EditingCommandLine(CLI::App& app)
@@ -59,7 +72,7 @@ EditingCommandLine::EditingCommandLine(CLI::App& app)
     {
         if (verb.place == VerbPlace::ScriptsOnly)
             continue;
-        CLI::App& command = AddCommand(app, verb.name, verb.summary);
+        CLI::App& command = AddCommand(app, verb);
         DeclareWords(command, verb, words);
         command.footer("Example:\n  styleprops " + std::string(verb.example));
         verbCommands.push_back({&verb, &command});
@@ -67,18 +80,37 @@ EditingCommandLine::EditingCommandLine(CLI::App& app)
     AddScriptCommand(app);
 }
 
-CLI::App& EditingCommandLine::AddCommand(CLI::App& app, const std::string& name, const std::string& summary)
+CLI::App& EditingCommandLine::AddCommand(CLI::App& app, const EditingVerb& verb)
+{
+    const std::string name = verb.name;
+    const std::size_t blank = name.find(' ');
+    if (blank == std::string::npos)
+        return AddCommand(app, name, verb.summary, verb.place);
+    return AddCommand(NeedGroup(app, name.substr(0, blank)), name.substr(blank + 1), verb.summary,
+                      verb.place);
+}
+
+CLI::App& EditingCommandLine::AddCommand(CLI::App& app, const std::string& name, const std::string& summary,
+                                         VerbPlace place)
 {
     CLI::App& command = *app.add_subcommand(name, summary);
+    if (place == VerbPlace::WithoutDrawing)
+    {
+        DeclareReport(command, edited.drawing);
+        return command;
+    }
+    const bool isChange = place == VerbPlace::ChangesDrawing;
     DeclareDrawing(command, edited.drawing);
-    DeclareSelector(command, edited.selector, "What to change");
-    DeclareOutput(command, edited.output);
+    DeclareSelector(command, edited.selector, isChange ? "What to change" : "What to look at");
+    if (isChange)
+        DeclareOutput(command, edited.output);
     return command;
 }
 
 void EditingCommandLine::AddScriptCommand(CLI::App& app)
 {
-    CLI::App& command = AddCommand(app, "edit", "Run a script of commands on one drawing, and write it once");
+    CLI::App& command = AddCommand(app, "edit", "Run a script of commands on one drawing, and write it once",
+                                   VerbPlace::ChangesDrawing);
     command.add_option("--script", script, kScriptHelp)->required()->option_text("EDITS");
     command.footer("Example:\n  styleprops edit sketch.odg --script tidy.txt --in-place --backup");
     scriptCommand = &command;
@@ -95,6 +127,8 @@ std::optional<Command> EditingCommandLine::GetParsed() const
     {
         if (!each.command->parsed())
             continue;
+        if (each.verb->place != VerbPlace::ChangesDrawing)
+            return AskOptions{edited.drawing, edited.selector, each.verb->read(words)};
         CheckOutput(edited.output, each.verb->name);
         return EditOptions{edited, each.verb->read(words)};
     }

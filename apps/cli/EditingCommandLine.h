@@ -15,7 +15,8 @@ class App;
 namespace Cli
 {
 
-/// The commands of the tool that change a drawing, for the parser of the command line.
+/// The commands of the tool that change a drawing, and those about what its panels offer, for the parser of
+/// the command line.
 ///
 /// The parser fills it, so that it has to live until the parser has run.
 class EditingCommandLine
@@ -40,7 +41,8 @@ private:
         const CLI::App* command; ///< Borrowed from the parser.
     };
 
-    CLI::App& AddCommand(CLI::App& app, const std::string& name, const std::string& summary);
+    CLI::App& AddCommand(CLI::App& app, const EditingVerb& verb);
+    CLI::App& AddCommand(CLI::App& app, const std::string& name, const std::string& summary, VerbPlace place);
     void AddScriptCommand(CLI::App& app);
 
     EditedDrawing edited;

@@ -18,32 +18,12 @@ using Workbench::ReportValue;
 using Workbench::RowOrigin;
 using Workbench::RowReport;
 
-Json TextToJson(OvxStringViewT text)
-{
-    return OvxUtils::ToUtf8(text);
-}
-
 Json TextsToJson(const std::vector<OvxStringT>& texts)
 {
     Json list = Json::array();
     for (const OvxStringT& text : texts)
         list.push_back(TextToJson(text));
     return list;
-}
-
-/// A text that is null where there is none.
-Json OptionalToJson(const OvxStringT& text)
-{
-    return text.empty() ? Json() : TextToJson(text);
-}
-
-Json ValueToJson(const ReportValue& value)
-{
-    if (const auto* number = std::get_if<int>(&value))
-        return *number;
-    if (const auto* text = std::get_if<OvxStringT>(&value))
-        return TextToJson(*text);
-    return {};
 }
 
 Json OriginToJson(const RowOrigin& origin)
@@ -117,6 +97,25 @@ std::string Dump(const Json& json)
 
 } // namespace
 
+Json ValueToJson(const ReportValue& value)
+{
+    if (const auto* number = std::get_if<int>(&value))
+        return *number;
+    if (const auto* text = std::get_if<OvxStringT>(&value))
+        return TextToJson(*text);
+    return {};
+}
+
+Json TextToJson(OvxStringViewT text)
+{
+    return OvxUtils::ToUtf8(text);
+}
+
+Json OptionalToJson(const OvxStringT& text)
+{
+    return text.empty() ? Json() : TextToJson(text);
+}
+
 Json ReportToJson(const Workbench::Report& report)
 {
     Json json;
@@ -156,14 +155,9 @@ Json ChangeToJson(const Workbench::Change& change)
     return json;
 }
 
-void AddAnswer(Json& object, const EditAnswer& answer)
+std::string FormatJson(const Json& document)
 {
-    if (const auto* created = std::get_if<CreatedStyle>(&answer.content))
-        object["created"] = TextToJson(created->name);
-    if (const auto* opened = std::get_if<OpenedStyle>(&answer.content))
-        object["style"] = TextToJson(opened->name);
-    if (const auto* report = std::get_if<Workbench::Report>(&answer.content))
-        object["report"] = ReportToJson(*report);
+    return Dump(document) + "\n";
 }
 
 JsonDocument::JsonDocument(const std::filesystem::path& file, const std::string& listName)

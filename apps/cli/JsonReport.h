@@ -1,9 +1,10 @@
 #pragma once
 
-#include "apps/cli/EditRun.h"
 #include "apps/workbench/Change.h"
 #include "apps/workbench/Report.h"
 #include "apps/workbench/TargetHandover.h"
+#include "host/utils/OvxStringT.h"
+#include "host/utils/OvxStringViewT.h"
 
 #include <nlohmann/json.hpp>
 
@@ -14,6 +15,14 @@
 namespace Cli
 {
 
+[[nodiscard]] nlohmann::ordered_json TextToJson(OvxStringViewT text);
+
+/// A text that is null where there is none.
+[[nodiscard]] nlohmann::ordered_json OptionalToJson(const OvxStringT& text);
+
+/// A value in words as programs read it: a number, a text, or null for nothing.
+[[nodiscard]] nlohmann::ordered_json ValueToJson(const Workbench::ReportValue& value);
+
 /// A report as programs read it; docs/json-format.md tells every field.
 [[nodiscard]] nlohmann::ordered_json ReportToJson(const Workbench::Report& report);
 
@@ -23,8 +32,8 @@ namespace Cli
 /// What edits made of one row of one target, as programs read it.
 [[nodiscard]] nlohmann::ordered_json ChangeToJson(const Workbench::Change& change);
 
-/// Puts what a command told into an object: "created", "style" or "report".
-void AddAnswer(nlohmann::ordered_json& object, const EditAnswer& answer);
+/// A whole document on one line, UTF-8, the line ended.
+[[nodiscard]] std::string FormatJson(const nlohmann::ordered_json& document);
 
 /// Puts a document for programs together piece by piece, each on a line of its own, so that a large drawing
 /// is never held as a tree in memory.

@@ -261,6 +261,17 @@ std::vector<TextLine> ReportToText(const std::filesystem::path& file, const Work
     return lines;
 }
 
+std::vector<TextLine> PresetRowsToText(const OvxStringT& presetName, const PanelReport& panel)
+{
+    std::vector<TextLine> lines;
+    lines.push_back({{{presetName, OutputRole::Heading}}, 0});
+    for (const RowReport& row : panel.rows)
+        lines.push_back({{{GetString(row.description->label), OutputRole::Plain}, ValueCell(row)}, 2});
+    if (panel.rows.empty())
+        lines.push_back({{{GetString(L"preset.empty"), OutputRole::Faint}}, 2});
+    return lines;
+}
+
 std::vector<TextLine> StylesToText(const std::vector<Workbench::NamedStyleFacts>& styles)
 {
     std::vector<TextLine> lines(1);

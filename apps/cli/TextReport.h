@@ -16,6 +16,10 @@ namespace Cli
 [[nodiscard]] std::vector<TextLine> ReportToText(const std::filesystem::path& file,
                                                  const Workbench::Report& report);
 
+/// What a preset sets as people read it: a line for each row of the panel that it sets.
+[[nodiscard]] std::vector<TextLine> PresetRowsToText(const OvxStringT& presetName,
+                                                     const Workbench::PanelReport& panel);
+
 /// A value as people read it: a number in the row's unit, a choice by its label, other texts as they are.
 [[nodiscard]] OvxStringT ValueToText(const Workbench::RowReport& row);
 

@@ -126,6 +126,12 @@ int Run(const ScriptOptions& options)
     return kSuccess;
 }
 
+int Run(const AskOptions& options)
+{
+    RunAsk(options);
+    return kSuccess;
+}
+
 int Run(const InformationText& information)
 {
     WriteStandardOutput(information.text);

@@ -2,9 +2,12 @@
 
 #include "apps/workbench/Change.h"
 #include "apps/workbench/EditError.h"
+#include "apps/workbench/Report.h"
 #include "apps/workbench/Selection.h"
 #include "apps/workbench/Selector.h"
 #include "apps/workbench/Session.h"
+#include "apps/workbench/StyleList.h"
+#include "apps/workbench/StylePick.h"
 #include "apps/workbench/UsageError.h"
 #include "host/utils/OvxStringT.h"
 
@@ -79,6 +82,38 @@ public:
     ///
     /// @returns the name of the style that is selected now.
     OvxStringT EditStyle(const OvxStringT& panel);
+
+    /// The list from which a panel's targets take their style, or that of the styles which it does not show,
+    /// as the panel builds it now. Empty without targets.
+    [[nodiscard]] StyleList ListStyles(const OvxStringT& panel, StyleListPart part);
+
+    /// Picks from the panel's list of styles, and from its dialog where the list does not show the style.
+    ///
+    /// Objects take the style, all that are selected; a named style takes it as its parent. That no style is
+    /// wanted acts on the first target only. A pick that the panel does nothing for is refused with the
+    /// reason.
+    Restyled Restyle(const OvxStringT& panel, const StylePick& pick);
+
+    /// The presets that a panel offers, in its order.
+    [[nodiscard]] std::vector<PresetReport> ListPresets(const OvxStringT& panel);
+
+    /// What a preset sets: the panel as it shows a target that took it, with no rows but those that the
+    /// preset sets. Changes nothing.
+    [[nodiscard]] PanelReport DescribePreset(const OvxStringT& panel, const OvxStringT& name);
+
+    /// Gives the targets what a preset sets in the panel's category; they inherit the rest of it. Refuses a
+    /// preset that names a gradient or the like which the drawing does not define.
+    void ApplyPreset(const OvxStringT& panel, const OvxStringT& name);
+
+    /// Keeps the first target as a preset, through the panel's dialog. Changes nothing in the drawing.
+    ///
+    /// @param mayReplace what the question is answered with whether one of that name is replaced; without an
+    ///                   answer whoever answers the session's dialogs is asked.
+    /// @returns whether a preset of that name was replaced.
+    bool AddPreset(const OvxStringT& panel, const OvxStringT& name, std::optional<bool> mayReplace);
+
+    /// Drops a preset. Changes nothing in the drawing.
+    void DeletePreset(const OvxStringT& panel, const OvxStringT& name);
 
     /// Adds entries to the palette, or changes those that are there and every value that refers to them.
     void DefineColours(const std::vector<PaletteAssignment>& colours);

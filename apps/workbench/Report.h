@@ -3,8 +3,10 @@
 #include "apps/workbench/PanelDescription.h"
 #include "datasource/ActivePropertyState.h"
 #include "host/utils/OvxStringT.h"
+#include "reference_host/preset_store/PresetPicture.h"
 
 #include <cstddef>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -61,6 +63,13 @@ struct PanelReport
     OvxStringT styleName; ///< The first target's name in the sheet; empty for an object's own style.
     std::vector<PropertyReport> properties; ///< Those that are numbers or texts, in order of registration.
     std::vector<RowReport> rows;            ///< In the order of the description.
+};
+
+/// A preset of a panel.
+struct PresetReport
+{
+    OvxStringT name;
+    std::optional<ReferenceHost::PresetPicture> picture; ///< None when it cannot be read any more.
 };
 
 /// A selected object.

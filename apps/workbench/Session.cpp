@@ -4,6 +4,7 @@
 #include "apps/workbench/SelectionSearch.h"
 
 #include <exception>
+#include <utility>
 
 namespace Workbench
 {
@@ -39,26 +40,80 @@ TargetReport DescribeTarget(const TargetHandover& handover, ReferenceHost::Drawi
 
 } // namespace
 
+struct Session::OpenedDrawing
+{
+    std::unique_ptr<ReferenceHost::Drawing> drawing;
+    std::vector<std::string> warnings;
+};
+
+Session::OpenedDrawing Session::OpenDrawing(const std::filesystem::path& file,
+                                            const std::vector<PanelDescription>& describedPanels)
+{
+    OpenedDrawing opened;
+    opened.drawing = ReferenceHost::Drawing::Open(file, opened.warnings, TakeCategories(describedPanels));
+    return opened;
+}
+
 Session::Session(const std::filesystem::path& file, const std::vector<PanelDescription>& describedPanels)
-    : introduction(application),
-      drawing(ReferenceHost::Drawing::Open(file, warnings, TakeCategories(describedPanels))),
+    : Session(OpenDrawing(file, describedPanels))
+{
+}
+
+Session::Session(const std::vector<PanelDescription>& describedPanels)
+    : Session(OpenedDrawing{ReferenceHost::Drawing::CreateBlank(TakeCategories(describedPanels)), {}})
+{
+}
+
+Session::Session(OpenedDrawing opened)
+    : warnings(std::move(opened.warnings)),
+      introduction(application),
+      drawing(std::move(opened.drawing)),
       drawingStyles(*drawing),
       stylesSource(drawingStyles),
       handover(*drawing),
-      context(&hostObject, nullptr)
+      context(&hostObject, &application.GetDialogs())
 {
     application.OpenDocument(&stylesSource, &drawingStyles);
+    application.GetDialogs().SetFrontEnd(&dialogs);
+    stylesSource.SetPresetKeeper(&application.GetPresets());
+    reporterBefore =
+        ReferenceHost::SetPresetReporter([this](ReferenceHost::PresetProblem problem, const std::string& line)
+                                         { TakePresetProblem(problem, line); });
     // The panels of a session edit the objects of its drawing: theirs is the host's current context.
     application.SetObjectPropertiesContext(&context);
     context.AddDataSource(OvxStringT(NamedStyleEditor::kName), &styleEditor);
+    // Before the panels, which listen to it.
+    context.CreateDataSource(L"StylePresets");
 }
 
 Session::~Session()
 {
     panels.clear();
+    context.RemoveDataSource(L"StylePresets");
     context.RemoveDataSource(OvxStringT(NamedStyleEditor::kName));
     application.SetObjectPropertiesContext(nullptr);
+    ReferenceHost::SetPresetReporter(reporterBefore);
+    application.GetDialogs().SetFrontEnd(nullptr);
     application.CloseDocument();
+}
+
+std::vector<std::string> Session::TakePresetWarnings()
+{
+    return std::exchange(presetWarnings, {});
+}
+
+std::string Session::TakePresetFailure()
+{
+    return std::exchange(presetFailure, {});
+}
+
+/// Presets are read again and again; what is wrong with one is told once.
+void Session::TakePresetProblem(ReferenceHost::PresetProblem problem, const std::string& line)
+{
+    if (problem == ReferenceHost::PresetProblem::NotChanged)
+        presetFailure = line;
+    else if (toldPresetWarnings.insert(line).second)
+        presetWarnings.push_back(line);
 }
 
 std::vector<std::string> Session::LoadPanels(const std::vector<PanelDescription>& descriptions)
@@ -70,6 +125,7 @@ std::vector<std::string> Session::LoadPanels(const std::vector<PanelDescription>
         try
         {
             panels.push_back(std::make_unique<Panel>(description, context));
+            TargetHandover::OfferPresets(stylesSource, panels.back()->GetDataSource(), description);
         }
         catch (const std::exception& error)
         {

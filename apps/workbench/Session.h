@@ -5,11 +5,13 @@
 #include "apps/workbench/NamedStyleEditor.h"
 #include "apps/workbench/Panel.h"
 #include "apps/workbench/PanelDescription.h"
+#include "apps/workbench/PanelDialogs.h"
 #include "apps/workbench/Report.h"
 #include "apps/workbench/Selection.h"
 #include "apps/workbench/Selector.h"
 #include "apps/workbench/TargetHandover.h"
 #include "reference_host/document/Drawing.h"
+#include "reference_host/preset_store/PresetReports.h"
 #include "reference_host/services/Application.h"
 #include "reference_host/services/DataContext.h"
 #include "reference_host/services/DocumentStylesSource.h"
@@ -18,6 +20,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -37,6 +40,9 @@ public:
     /// @throws ReferenceHost::DocumentError when the drawing cannot be read.
     Session(const std::filesystem::path& file, const std::vector<PanelDescription>& describedPanels);
 
+    /// Begins with a blank drawing, for what needs none: presets are the person's and not a drawing's.
+    explicit Session(const std::vector<PanelDescription>& describedPanels);
+
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
@@ -47,6 +53,16 @@ public:
     [[nodiscard]] const std::vector<std::string>& GetWarnings() const noexcept { return warnings; }
 
     [[nodiscard]] ReferenceHost::Drawing& GetDrawing() noexcept { return *drawing; }
+
+    /// The dialogs that panels ask for.
+    [[nodiscard]] PanelDialogs& GetDialogs() noexcept { return dialogs; }
+
+    /// What was wrong with presets since this was last asked, one line in UTF-8 each: those that were passed
+    /// over, each once.
+    [[nodiscard]] std::vector<std::string> TakePresetWarnings();
+
+    /// What kept a preset from being kept or dropped since this was last asked; empty for nothing.
+    [[nodiscard]] std::string TakePresetFailure();
 
     /// What the drawing's styles are, in words.
     [[nodiscard]] const TargetHandover& GetStyles() const noexcept { return handover; }
@@ -81,7 +97,21 @@ public:
     [[nodiscard]] Report Inspect(const Selection& selection);
 
 private:
+    /// A drawing with what was found when it was opened.
+    struct OpenedDrawing;
+
+    explicit Session(OpenedDrawing opened);
+
+    static OpenedDrawing OpenDrawing(const std::filesystem::path& file,
+                                     const std::vector<PanelDescription>& describedPanels);
+
+    void TakePresetProblem(ReferenceHost::PresetProblem problem, const std::string& line);
+
     std::vector<std::string> warnings;
+    std::set<std::string> toldPresetWarnings;
+    std::vector<std::string> presetWarnings; ///< Those that nobody asked for yet.
+    std::string presetFailure;
+    ReferenceHost::PresetReporter reporterBefore;
     ReferenceHost::Application application;
     LibraryIntroduction introduction;
     std::unique_ptr<ReferenceHost::Drawing> drawing; ///< Never null.
@@ -89,6 +119,7 @@ private:
     ReferenceHost::DocumentStylesSource stylesSource;
     TargetHandover handover;
     ReferenceHost::HostObject hostObject;
+    PanelDialogs dialogs;
     NamedStyleEditor styleEditor;
     ReferenceHost::DataContext context;
     std::size_t handovers = 0;

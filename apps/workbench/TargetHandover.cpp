@@ -171,6 +171,21 @@ void TargetHandover::HandInAsSelected(ReferenceHost::DocumentStylesSource& sourc
     source.SetSelectedStyles(TargetsOfObjects(selection.objects, TargetKind::Objects).styles);
 }
 
+void TargetHandover::HandInNothing(BaseStylePropertiesDatasource& panel, const PanelDescription& description)
+{
+    panel.SetObjectStyles({});
+    panel.SetTargetStyle({}, /*isDefault=*/false, KeyOf(description.category), {});
+}
+
+void TargetHandover::OfferPresets(ReferenceHost::DocumentStylesSource& source,
+                                  const BaseStylePropertiesDatasource& panel,
+                                  const PanelDescription& description)
+{
+    const OvxStringT presetCategory = panel.PresetCategoryName();
+    if (!presetCategory.empty())
+        source.SetPresetCategory(presetCategory, KeyOf(description.category));
+}
+
 std::optional<OvxStringT> TargetHandover::TextOfChoice(const OvxUtils::Any& value)
 {
     const auto* const key = value.TryGet<PropertyKey>();
@@ -195,6 +210,14 @@ std::vector<OvxStringT> TargetHandover::ParentsOfTargets(const BaseStyleProperti
         if (!name.empty())
             names.push_back(name);
     }
+    return names;
+}
+
+std::vector<OvxStringT> TargetHandover::ParentOfEachTarget(const BaseStylePropertiesDatasource& panel) const
+{
+    std::vector<OvxStringT> names;
+    for (std::size_t index = 0; index < panel.GetNumTargetStyles(); ++index)
+        names.push_back(drawing->GetStyleSheet().GetStyleName(DirectParentOf(panel.GetTargetStyle(index))));
     return names;
 }
 

@@ -68,6 +68,13 @@ public:
     /// styles count as nothing.
     void HandInAsSelected(ReferenceHost::DocumentStylesSource& source, const Selection& selection) const;
 
+    /// Takes all targets from a panel.
+    static void HandInNothing(BaseStylePropertiesDatasource& panel, const PanelDescription& description);
+
+    /// Tells a style source what the presets are about that a panel offers, if it offers any.
+    static void OfferPresets(ReferenceHost::DocumentStylesSource& source,
+                             const BaseStylePropertiesDatasource& panel, const PanelDescription& description);
+
     /// What a value of a choice means; none for any other value.
     [[nodiscard]] static std::optional<OvxStringT> TextOfChoice(const OvxUtils::Any& value);
 
@@ -82,6 +89,11 @@ public:
     /// The named styles that the targets of a panel inherit from directly, in the panel's category: each name
     /// once, in the order of the targets. Styles without a name are left out.
     [[nodiscard]] std::vector<OvxStringT> ParentsOfTargets(const BaseStylePropertiesDatasource& panel) const;
+
+    /// The named style that each target of a panel inherits from directly, in the panel's category; empty for
+    /// a target without, and where that has no name.
+    [[nodiscard]] std::vector<OvxStringT>
+    ParentOfEachTarget(const BaseStylePropertiesDatasource& panel) const;
 
     /// The names of all named styles, in the order of the sheet.
     [[nodiscard]] const std::vector<OvxStringT>& GetStyleNames() const;

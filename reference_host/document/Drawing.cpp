@@ -32,6 +32,24 @@ void RegisterProperties(const PropertyMappings& table)
     }
 }
 
+constexpr const char* kBlankDrawing = R"(<?xml version="1.0" encoding="UTF-8"?>
+<office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
+    xmlns:draw="urn:oasis:names:tc:opendocument:xmlns:drawing:1.0"
+    xmlns:style="urn:oasis:names:tc:opendocument:xmlns:style:1.0"
+    xmlns:svg="urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0"
+    office:version="1.3" office:mimetype="application/vnd.oasis.opendocument.graphics">
+  <office:styles/>
+  <office:automatic-styles/>
+  <office:body>
+    <office:drawing>
+      <draw:page draw:name="page1">
+        <draw:rect svg:width="4cm" svg:height="3cm" svg:x="2cm" svg:y="2cm"/>
+      </draw:page>
+    </office:drawing>
+  </office:body>
+</office:document>
+)";
+
 /// Makes the styles of a drawing that has been read tell its history.
 void StartHistory(DrawingData& data)
 {
@@ -41,6 +59,13 @@ void StartHistory(DrawingData& data)
     data.cascades.SetJournal(&data.history);
 }
 
+std::unique_ptr<Drawing> Finish(std::unique_ptr<DrawingData> data)
+{
+    RegisterProperties(data->table);
+    StartHistory(*data);
+    return std::make_unique<Drawing>(std::move(data));
+}
+
 } // namespace
 
 std::unique_ptr<Drawing> Drawing::Open(const std::filesystem::path& file, std::vector<std::string>& warnings,
@@ -48,9 +73,17 @@ std::unique_ptr<Drawing> Drawing::Open(const std::filesystem::path& file, std::v
 {
     auto data = std::make_unique<DrawingData>(file, extensions);
     DrawingReader(*data, warnings).Read();
-    RegisterProperties(data->table);
-    StartHistory(*data);
-    return std::make_unique<Drawing>(std::move(data));
+    return Finish(std::move(data));
+}
+
+std::unique_ptr<Drawing> Drawing::CreateBlank(const std::vector<PropertyMapping>& extensions)
+{
+    auto data = std::make_unique<DrawingData>(std::filesystem::path(), extensions);
+    data->file.label = "blank drawing";
+    data->file.bytes = kBlankDrawing;
+    std::vector<std::string> warnings;
+    DrawingReader(*data, warnings).ReadContents();
+    return Finish(std::move(data));
 }
 
 Drawing::Drawing(std::unique_ptr<DrawingData> contents) : data(std::move(contents))

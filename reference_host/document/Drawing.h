@@ -65,13 +65,17 @@ public:
                                                        std::vector<std::string>& warnings,
                                                        const std::vector<PropertyMapping>& extensions = {});
 
-    /// Made by Open().
+    /// A drawing that lies in no file: one page with one rectangle, and nothing that is named.
+    [[nodiscard]] static std::unique_ptr<Drawing>
+    CreateBlank(const std::vector<PropertyMapping>& extensions = {});
+
+    /// Made by Open() and CreateBlank().
     explicit Drawing(std::unique_ptr<DrawingData> contents);
     Drawing(const Drawing&) = delete;
     Drawing& operator=(const Drawing&) = delete;
     ~Drawing();
 
-    /// The path as it was given to Open().
+    /// The path as it was given to Open(); empty for a drawing that lies in no file.
     [[nodiscard]] const std::filesystem::path& GetPath() const noexcept;
 
     [[nodiscard]] DrawingForm GetForm() const noexcept;

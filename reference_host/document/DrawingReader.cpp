@@ -42,6 +42,11 @@ DrawingReader::DrawingReader(DrawingData& target, std::vector<std::string>& warn
 void DrawingReader::Read()
 {
     data.file = ReadDrawingFile(data.path);
+    ReadContents();
+}
+
+void DrawingReader::ReadContents()
+{
     const bool isFlat = data.file.form == DrawingForm::Flat;
     const Part content = isFlat ? Parse(data.file.bytes, nullptr) : Parse(data.file.content, "content.xml");
     const Part packageStyles = isFlat ? Part() : Parse(data.file.styles, "styles.xml");

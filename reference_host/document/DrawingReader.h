@@ -22,8 +22,15 @@ public:
     /// Borrows both; `target` holds nothing of the file yet.
     DrawingReader(DrawingData& target, std::vector<std::string>& warningLines);
 
+    /// Reads the file that the drawing's path names.
+    ///
     /// @throws DocumentError
     void Read();
+
+    /// Reads what `target` holds as the bytes of its file.
+    ///
+    /// @throws DocumentError
+    void ReadContents();
 
 private:
     /// One XML text of the drawing: a flat file has one, a package up to three. Without a text all is empty.

@@ -81,7 +81,7 @@ std::vector<PresetFolder::Entry> PresetFolder::Read() const
         }
         catch (const DocumentError& error)
         {
-            ReportPresetProblem(error.what());
+            ReportPresetProblem(PresetProblem::Skipped, error.what());
         }
     }
     std::ranges::stable_sort(entries,
@@ -96,8 +96,9 @@ std::vector<PresetFolder::Entry> PresetFolder::Read() const
     {
         if (first.name != second.name)
             return false;
-        ReportPresetProblem(PathToUtf8(second.file) + ": the same name as " +
-                            PathToUtf8(first.file.filename()) + ", which counts; expected a name of its own");
+        ReportPresetProblem(PresetProblem::Skipped, PathToUtf8(second.file) + ": the same name as " +
+                                                        PathToUtf8(first.file.filename()) +
+                                                        ", which counts; expected a name of its own");
         return true;
     };
     entries.erase(std::unique(entries.begin(), entries.end(), isRepeated), entries.end());
@@ -157,7 +158,7 @@ bool PresetFolder::Add(const OvxStringT& name, const std::string& fileName, cons
     }
     catch (const std::exception& error)
     {
-        ReportPresetProblem(error.what());
+        ReportPresetProblem(PresetProblem::NotChanged, error.what());
         return false;
     }
 }
@@ -174,7 +175,7 @@ bool PresetFolder::Remove(const OvxStringT& name) const
     }
     catch (const std::exception& error)
     {
-        ReportPresetProblem(error.what());
+        ReportPresetProblem(PresetProblem::NotChanged, error.what());
         return false;
     }
 }

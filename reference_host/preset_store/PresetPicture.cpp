@@ -58,29 +58,31 @@ private:
 };
 
 /// Types that name a definition do so in the property that is called after them.
-OvxStringT FillDefinition(const Appearance& fill, const OvxStringT& type)
+OvxStringT DefinitionOf(const Appearance& part, const OvxStringT& type)
 {
-    const bool isNamed = type == L"gradient" || type == L"hatch" || type == L"bitmap";
-    return isNamed ? fill.Text(type) : OvxStringT();
+    const bool isNamed = type == L"gradient" || type == L"hatch" || type == L"bitmap" || type == L"dash";
+    return isNamed ? part.Text(type) : OvxStringT();
+}
+
+PicturePart DescribePart(const Style& preset, const PropertyKey& category)
+{
+    const Appearance appearance(preset, category);
+    PicturePart part;
+    part.category = category.GetString();
+    part.type = appearance.Choice(L"type");
+    part.definition = DefinitionOf(appearance, part.type);
+    part.colour = appearance.Colour();
+    part.transparency = appearance.Number(L"transparency");
+    part.widthInHundredthMm = appearance.Number(L"width");
+    return part;
 }
 
 } // namespace
 
 PresetPicture DescribePicture(const Style& preset)
 {
-    const Appearance fill(preset, Styles::FillStyleCategoryName);
-    const Appearance outline(preset, Styles::OutlineStyleCategoryName);
-    PresetPicture picture;
-    picture.fill.type = fill.Choice(L"type");
-    picture.fill.definition = FillDefinition(fill, picture.fill.type);
-    picture.fill.colour = fill.Colour();
-    picture.fill.transparency = fill.Number(L"transparency");
-    picture.outline.type = outline.Choice(L"type");
-    picture.outline.dash = picture.outline.type == L"dash" ? outline.Text(L"dash") : OvxStringT();
-    picture.outline.colour = outline.Colour();
-    picture.outline.transparency = outline.Number(L"transparency");
-    picture.outline.widthInHundredthMm = outline.Number(L"width");
-    return picture;
+    return {DescribePart(preset, Styles::FillStyleCategoryName),
+            DescribePart(preset, Styles::OutlineStyleCategoryName)};
 }
 
 } // namespace ReferenceHost

@@ -10,34 +10,24 @@
 namespace ReferenceHost
 {
 
+/// What one category of a preset looks like.
+struct PicturePart
+{
+    OvxStringT category;   ///< Its name: "fill" or "outline".
+    OvxStringT type;       ///< "none", "solid", "gradient", "dash" ...; empty when the preset is silent.
+    OvxStringT definition; ///< The name of the gradient, hatch, bitmap or dash; empty for the other types.
+    std::optional<CLR_COLORSPEC::Rgb> colour;
+    int transparency = 0;       ///< Per cent.
+    int widthInHundredthMm = 0; ///< Of an outline; 0 is as thin as can be.
+
+    friend bool operator==(const PicturePart&, const PicturePart&) = default;
+};
+
 /// What a preset looks like, as far as it shows in a small picture beside its name. A plain value.
 struct PresetPicture
 {
-    /// What fills it.
-    struct Fill
-    {
-        OvxStringT type; ///< "none", "solid", "gradient", "hatch" or "bitmap"; empty when the preset is silent.
-        OvxStringT definition; ///< The name of the gradient, hatch or bitmap; empty for the other types.
-        std::optional<CLR_COLORSPEC::Rgb> colour;
-        int transparency = 0; ///< Per cent.
-
-        friend bool operator==(const Fill&, const Fill&) = default;
-    };
-
-    /// What is drawn round it.
-    struct Outline
-    {
-        OvxStringT type; ///< "none", "dash" or "solid"; empty when the preset is silent.
-        OvxStringT dash; ///< The name of the dash; empty for the other types.
-        std::optional<CLR_COLORSPEC::Rgb> colour;
-        int transparency = 0;         ///< Per cent.
-        int widthInHundredthMm = 0;   ///< 0 is as thin as can be.
-
-        friend bool operator==(const Outline&, const Outline&) = default;
-    };
-
-    Fill fill;
-    Outline outline;
+    PicturePart fill;
+    PicturePart outline;
 
     friend bool operator==(const PresetPicture&, const PresetPicture&) = default;
 };

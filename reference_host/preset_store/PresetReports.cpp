@@ -21,10 +21,10 @@ PresetReporter SetPresetReporter(PresetReporter reporter)
     return std::exchange(Reporter(), std::move(reporter));
 }
 
-void ReportPresetProblem(const std::string& line)
+void ReportPresetProblem(PresetProblem problem, const std::string& line)
 {
     if (Reporter())
-        Reporter()(line);
+        Reporter()(problem, line);
 }
 
 } // namespace ReferenceHost

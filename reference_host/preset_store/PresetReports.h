@@ -8,8 +8,15 @@
 namespace ReferenceHost
 {
 
-/// Hears of presets that cannot be used: one line in UTF-8 each, with the file and what is wrong.
-using PresetReporter = std::function<void(const std::string& line)>;
+/// What became of a preset that there is something to tell of.
+enum class PresetProblem
+{
+    Skipped,   ///< It cannot be used, and was passed over.
+    NotChanged ///< It could not be kept or dropped.
+};
+
+/// Hears of presets with problems: one line in UTF-8 each, with the file and what is wrong.
+using PresetReporter = std::function<void(PresetProblem problem, const std::string& line)>;
 
 /// Puts a reporter in place; with an empty one, as at first, nobody hears.
 ///
@@ -17,6 +24,6 @@ using PresetReporter = std::function<void(const std::string& line)>;
 STYLEPROPERTIES_HOST_API PresetReporter SetPresetReporter(PresetReporter reporter);
 
 /// Tells the reporter in place.
-void ReportPresetProblem(const std::string& line);
+void ReportPresetProblem(PresetProblem problem, const std::string& line);
 
 } // namespace ReferenceHost

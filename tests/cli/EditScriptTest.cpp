@@ -107,7 +107,9 @@ TEST(EditScriptText, NamesTheLineAndTheCommandsForAnUnknownOne)
 {
     EXPECT_EQ(ErrorOf("undo\npaint it\n"),
               "tidy.txt, line 2: \"paint\" is no command; expected one of set, clear, revert, "
-              "apply-to-parent, break-link, create-style, edit-style, palette, select, undo, redo, "
+              "apply-to-parent, break-link, create-style, edit-style, style-list, restyle, "
+              "presets list, presets show, presets apply, presets add, presets delete, palette, select, "
+              "undo, redo, "
               "begin-group, end-group, show");
 }
 

@@ -173,8 +173,8 @@ TEST_P(FillColourOfTargets, IsAnnouncedOnceAndOnlyWithWhatTheTargetsDecide)
 
     SetTargets(panel, objects);
 
-    // Six rows of seven properties, the title, and twelve names of every panel.
-    EXPECT_THAT(heard, testing::SizeIs(6 * 7 + 13));
+    // Six rows of seven properties, the title, and sixteen names of every panel.
+    EXPECT_THAT(heard, testing::SizeIs(6 * 7 + 17));
     EXPECT_EQ(heard.front(), OvxStringT(L"SectionTitle"));
     EXPECT_EQ(std::count(heard.begin(), heard.end(), OvxStringT(L"FillColor")), 1);
     EXPECT_EQ(std::set<OvxStringT>(heard.begin(), heard.end()).size(), heard.size());

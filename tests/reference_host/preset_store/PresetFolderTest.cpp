@@ -24,8 +24,9 @@ class PresetsInAFolder : public testing::Test
 {
 protected:
     PresetsInAFolder()
-        : before(
-              ReferenceHost::SetPresetReporter([this](const std::string& line) { reports.push_back(line); }))
+        : before(ReferenceHost::SetPresetReporter(
+              [this](ReferenceHost::PresetProblem /*problem*/, const std::string& line)
+              { reports.push_back(line); }))
     {
     }
 

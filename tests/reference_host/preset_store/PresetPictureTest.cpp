@@ -50,7 +50,8 @@ TEST_F(PictureOfAPreset, TellsFillAndOutline)
     Set(L"outline", L"transparency", Any(5));
     Set(L"outline", L"width", Any(250));
 
-    const PresetPicture expected{{L"solid", L"", Rgb{1, 2, 3}, 40}, {L"dash", L"Fine", Rgb{4, 5, 6}, 5, 250}};
+    const PresetPicture expected{{L"fill", L"solid", L"", Rgb{1, 2, 3}, 40, 0},
+                                 {L"outline", L"dash", L"Fine", Rgb{4, 5, 6}, 5, 250}};
     EXPECT_EQ(Picture(), expected);
 }
 
@@ -68,12 +69,13 @@ TEST_F(PictureOfAPreset, NamesNoDashOfASolidOutline)
     Set(L"outline", L"type", Any(Key(L"solid")));
     Set(L"outline", L"dash", Any(OvxStringT(L"Fine")));
 
-    EXPECT_EQ(Picture().outline.dash, OvxStringT());
+    EXPECT_EQ(Picture().outline.definition, OvxStringT());
 }
 
 TEST_F(PictureOfAPreset, IsEmptyWhereThePresetIsSilent)
 {
-    EXPECT_EQ(Picture(), PresetPicture());
+    const PresetPicture expected{{L"fill", {}, {}, {}, 0, 0}, {L"outline", {}, {}, {}, 0, 0}};
+    EXPECT_EQ(Picture(), expected);
 }
 
 TEST(PictureOfACategory, TellsThatCategoryAlone)
@@ -84,5 +86,5 @@ TEST(PictureOfACategory, TellsThatCategoryAlone)
     const PresetPicture picture = DescribePicture(fill);
 
     EXPECT_EQ(picture.fill.colour, (Rgb{9, 9, 9}));
-    EXPECT_EQ(picture.outline, PresetPicture::Outline());
+    EXPECT_EQ(picture.outline.colour, std::nullopt);
 }
