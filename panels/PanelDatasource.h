@@ -7,6 +7,7 @@
 #include "host/utils/OvxStringT.h"
 #include "host/utils/OvxStringViewT.h"
 #include "host/utils/RepeatingCallback.h"
+#include "panels/PanelRow.h"
 #include "panels/PresetSubscription.h"
 #include "panels/ValueOrigin.h"
 
@@ -18,13 +19,6 @@
 
 namespace Panels
 {
-
-/// One row of a panel, as its module writes it down. The texts are constants of the module.
-struct PanelRow
-{
-    OvxStringViewT property;   ///< The bound name of the row's value: "FillColor".
-    OvxStringViewT identifier; ///< The path of its property within the category, keys joined by ".": "color".
-};
 
 /// The base of panels whose rows are a table: each row becomes a handful of bound names.
 ///

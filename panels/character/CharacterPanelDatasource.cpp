@@ -5,21 +5,19 @@
 #include "host/style_model/CategoryNames.h"
 #include "panels/PanelRegistration.h"
 
-#include <array>
-
 namespace
 {
 
-constexpr std::array kRows{
-    Panels::PanelRow{L"CharacterFont", L"font"},
-    Panels::PanelRow{L"CharacterSize", L"size"},
-    Panels::PanelRow{L"CharacterWeight", L"weight"},
-    Panels::PanelRow{L"CharacterPosture", L"posture"},
-    Panels::PanelRow{L"CharacterUnderline", L"underline"},
-    Panels::PanelRow{L"CharacterStrikethrough", L"strikethrough"},
-    Panels::PanelRow{L"CharacterColor", L"color"},
-    Panels::PanelRow{L"CharacterLetterSpacing", L"letter-spacing"},
-};
+constexpr auto kRows = Panels::Rows({
+    {L"CharacterFont", L"font"},
+    {L"CharacterSize", L"size"},
+    {L"CharacterWeight", L"weight"},
+    {L"CharacterPosture", L"posture"},
+    {L"CharacterUnderline", L"underline"},
+    {L"CharacterStrikethrough", L"strikethrough"},
+    {L"CharacterColor", L"color"},
+    {L"CharacterLetterSpacing", L"letter-spacing"},
+});
 
 const Panels::PanelRegistration<CharacterPanelDatasource> registration;
 

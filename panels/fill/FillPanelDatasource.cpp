@@ -5,19 +5,17 @@
 #include "host/style_model/CategoryNames.h"
 #include "panels/PanelRegistration.h"
 
-#include <array>
-
 namespace
 {
 
-constexpr std::array kRows{
-    Panels::PanelRow{L"FillType", L"type"},
-    Panels::PanelRow{L"FillColor", L"color"},
-    Panels::PanelRow{L"FillTransparency", L"transparency"},
-    Panels::PanelRow{L"FillGradient", L"gradient"},
-    Panels::PanelRow{L"FillHatch", L"hatch"},
-    Panels::PanelRow{L"FillBitmap", L"bitmap"},
-};
+constexpr auto kRows = Panels::Rows({
+    {L"FillType", L"type"},
+    {L"FillColor", L"color"},
+    {L"FillTransparency", L"transparency"},
+    {L"FillGradient", L"gradient"},
+    {L"FillHatch", L"hatch"},
+    {L"FillBitmap", L"bitmap"},
+});
 
 const Panels::PanelRegistration<FillPanelDatasource> registration;
 

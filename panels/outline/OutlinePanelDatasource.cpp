@@ -5,22 +5,20 @@
 #include "host/style_model/CategoryNames.h"
 #include "panels/PanelRegistration.h"
 
-#include <array>
-
 namespace
 {
 
-constexpr std::array kRows{
-    Panels::PanelRow{L"OutlineType", L"type"},
-    Panels::PanelRow{L"OutlineColor", L"color"},
-    Panels::PanelRow{L"OutlineWidth", L"width"},
-    Panels::PanelRow{L"OutlineTransparency", L"transparency"},
-    Panels::PanelRow{L"OutlineDash", L"dash"},
-    Panels::PanelRow{L"OutlineJoin", L"join"},
-    Panels::PanelRow{L"OutlineCap", L"cap"},
-    Panels::PanelRow{L"OutlineStartArrow", L"start-arrow"},
-    Panels::PanelRow{L"OutlineEndArrow", L"end-arrow"},
-};
+constexpr auto kRows = Panels::Rows({
+    {L"OutlineType", L"type"},
+    {L"OutlineColor", L"color"},
+    {L"OutlineWidth", L"width"},
+    {L"OutlineTransparency", L"transparency"},
+    {L"OutlineDash", L"dash"},
+    {L"OutlineJoin", L"join"},
+    {L"OutlineCap", L"cap"},
+    {L"OutlineStartArrow", L"start-arrow"},
+    {L"OutlineEndArrow", L"end-arrow"},
+});
 
 const Panels::PanelRegistration<OutlinePanelDatasource> registration;
 

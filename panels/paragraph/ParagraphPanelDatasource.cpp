@@ -5,20 +5,18 @@
 #include "host/style_model/CategoryNames.h"
 #include "panels/PanelRegistration.h"
 
-#include <array>
-
 namespace
 {
 
-constexpr std::array kRows{
-    Panels::PanelRow{L"ParagraphAlign", L"align"},
-    Panels::PanelRow{L"ParagraphLeftIndent", L"left-indent"},
-    Panels::PanelRow{L"ParagraphRightIndent", L"right-indent"},
-    Panels::PanelRow{L"ParagraphFirstLineIndent", L"first-line-indent"},
-    Panels::PanelRow{L"ParagraphSpaceBefore", L"space-before"},
-    Panels::PanelRow{L"ParagraphSpaceAfter", L"space-after"},
-    Panels::PanelRow{L"ParagraphLineSpacing", L"line-spacing"},
-};
+constexpr auto kRows = Panels::Rows({
+    {L"ParagraphAlign", L"align"},
+    {L"ParagraphLeftIndent", L"left-indent"},
+    {L"ParagraphRightIndent", L"right-indent"},
+    {L"ParagraphFirstLineIndent", L"first-line-indent"},
+    {L"ParagraphSpaceBefore", L"space-before"},
+    {L"ParagraphSpaceAfter", L"space-after"},
+    {L"ParagraphLineSpacing", L"line-spacing"},
+});
 
 const Panels::PanelRegistration<ParagraphPanelDatasource> registration;
 

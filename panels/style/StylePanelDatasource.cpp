@@ -9,7 +9,6 @@
 #include "panels/PanelRegistration.h"
 #include "panels/SourceGroup.h"
 
-#include <array>
 #include <set>
 
 using namespace Styles;
@@ -18,9 +17,9 @@ using OvxUtils::Any;
 namespace
 {
 
-constexpr std::array kRows{
-    Panels::PanelRow{L"StyleParent", L"style"},
-};
+constexpr auto kRows = Panels::Rows({
+    {L"StyleParent", L"style"},
+});
 
 const Panels::PanelRegistration<StylePanelDatasource> registration;
 

@@ -6,8 +6,6 @@
 #include "panels/PanelRegistration.h"
 #include "tests/panels/PanelFixture.h"
 
-#include <array>
-
 using OvxUtils::Any;
 using State = ActivePropertyState;
 
@@ -20,11 +18,11 @@ class AuthorsPanelDatasource : public Panels::PanelDatasource, public DataSource
 public:
     void FillDataSourceMap()
     {
-        static constexpr std::array kRows{
-            Panels::PanelRow{L"First", L"first"},
-            Panels::PanelRow{L"Second", L"second"},
-            Panels::PanelRow{L"Nested", L"group.inner"},
-        };
+        static constexpr auto kRows = Panels::Rows({
+            {L"First", L"first"},
+            {L"Second", L"second"},
+            {L"Nested", L"group.inner"},
+        });
         RegisterRows(kRows);
     }
 
@@ -52,7 +50,7 @@ protected:
     {
         return claimsState ? claimedState : PanelDatasource::GetActivePropertyState(identifier);
     }
-};
+});
 
 namespace
 {

@@ -3,20 +3,21 @@
 
 #include "datasource/BaseStylePropertiesDatasource.h"
 #include "host/data_binding/DataSource.h"
+#include "host/data_binding/DataSourceFactory.h"
+#include "host/data_binding/IDataSourceRegistrar.h"
 #include "panels/PanelDatasource.h"
 #include "panels/PanelRegistration.h"
 
-#include <array>
 #include <stdexcept>
 
 namespace
 {
 
-constexpr std::array kShadowRows{
-    Panels::PanelRow{L"ShadowVisibility", L"visibility"},
-    Panels::PanelRow{L"ShadowColor", L"color"},
-    Panels::PanelRow{L"ShadowDistance", L"distance"},
-};
+constexpr auto kShadowRows = Panels::Rows({
+    {L"ShadowVisibility", L"visibility"},
+    {L"ShadowColor", L"color"},
+    {L"ShadowDistance", L"distance"},
+});
 
 } // namespace
 
@@ -63,7 +64,16 @@ namespace
 
 const Panels::PanelRegistration<ShadowPanelDatasource> shadow;
 const Panels::PanelRegistration<HollowPanelDatasource> hollow;
-const Panels::PanelRegistration<ClockDatasource> clock;
+
+/// What registers a panel takes no other class.
+struct ClockRegistration
+{
+    ClockRegistration() { IDataSourceRegistrar::GetInstance().RegisterFactory(&factory); }
+
+    DataSourceFactory<ClockDatasource> factory{L"frame"};
+};
+
+const ClockRegistration clock;
 const Panels::PanelRegistration<FailingPanelDatasource> failing;
 
 } // namespace

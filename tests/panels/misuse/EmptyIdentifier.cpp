@@ -1,0 +1,3 @@
+#include "panels/PanelRow.h"
+
+constexpr auto kRows = Panels::Rows({{L"ShadowColor", L""}});
