@@ -50,7 +50,7 @@ protected:
     {
         return claimsState ? claimedState : PanelDatasource::GetActivePropertyState(identifier);
     }
-});
+};
 
 namespace
 {
