@@ -1,0 +1,8 @@
+#include "conformance/HostUnderTest.h"
+
+namespace HostTests
+{
+
+HostUnderTest::~HostUnderTest() = default;
+
+} // namespace HostTests

@@ -1,0 +1,6 @@
+#include "conformance/HostUnderTest.h"
+
+int main(int argc, char** argv)
+{
+    return HostTests::Run(argc, argv);
+}
