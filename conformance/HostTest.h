@@ -57,7 +57,7 @@ protected:
     [[nodiscard]] IDataContext& GetContext() const;
 
     /// The substyle of an object, or of another whole style, made when it is missing.
-    [[nodiscard]] static Styles::Style& Part(Styles::Style& whole, const Styles::PropertyKey& category);
+    static Styles::Style& Part(Styles::Style& whole, const Styles::PropertyKey& category);
 
     std::unique_ptr<HostUnderTest> host;
 };
