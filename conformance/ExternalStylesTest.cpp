@@ -1,4 +1,5 @@
 #include "conformance/HostTest.h"
+#include "conformance/PrintedValues.h"
 #include "conformance/Subjects.h"
 
 #include "host/style_model/CategoryNames.h"

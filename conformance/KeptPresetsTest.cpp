@@ -1,4 +1,5 @@
 #include "conformance/HostTest.h"
+#include "conformance/PrintedValues.h"
 #include "conformance/Subjects.h"
 
 #include "host/colour/CLR_COLORSPEC.h"
@@ -180,7 +181,7 @@ TEST_F(Preset, IsAppliedToStylesAndSubstyles)
 TEST_F(Preset, KeepsValuesOfEveryType)
 {
     const DocumentObject object = host->AddObject();
-    const OvxUtils::Any colour(CLR_COLORSPEC::FromResource(L"Sea", {1, 2, 3}));
+    const OvxUtils::Any colour(CLR_COLORSPEC::FromRgb({1, 2, 3}));
     const OvxUtils::Any text(OvxStringT(L" Gr\u00fcn & \"<5>\" "));
     const OvxUtils::Any key(Key(L"solid"));
     shown.SetPathProperty(Path({L"fill", L"color"}), OvxUtils::Any(colour));

@@ -1,5 +1,6 @@
 #include "conformance/HostQueries.h"
 #include "conformance/HostTest.h"
+#include "conformance/PrintedValues.h"
 #include "conformance/Subjects.h"
 
 #include "host/services/ConfigurationFolders.h"

@@ -1,3 +1,4 @@
+#include "conformance/PrintedValues.h"
 #include "conformance/Subjects.h"
 
 #include "host/utils/OvxStringT.h"
