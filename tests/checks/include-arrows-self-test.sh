@@ -12,6 +12,8 @@ accepts "the library sees the standard library" datasource/A.cpp '#include <unor
 accepts "a panel sees the library" panels/fill/A.cpp '#include "datasource/B.h"'
 accepts "the reference host sees third parties" reference_host/A.cpp '#include <pugixml.hpp>'
 accepts "the reference host sees the host" reference_host/A.cpp '#include "host/b/B.h"'
+accepts "the tests of hosts see the host" conformance/A.cpp '#include "host/b/B.h"'
+accepts "the tests of hosts see GoogleTest" conformance/A.cpp '#include <gmock/gmock.h>'
 accepts "an application sees the reference host" apps/cli/A.cpp '#include "reference_host/B.h"'
 accepts "the handover sees the style model" apps/workbench/TargetHandover.cpp '#include "host/style_model/Style.h"'
 accepts "a program edits styles by name" apps/cli/A.h '#include "host/style_model/IStylesCollectionEditor.h"'
@@ -36,6 +38,16 @@ rejects "a panel sees the reference host" 'panels/ must not see reference_host/'
     panels/fill/A.cpp '#include "reference_host/B.h"'
 rejects "a panel sees an application" 'panels/ must not see apps/' \
     panels/A.h '#include "apps/workbench/B.h"'
+rejects "the tests of hosts see the reference host" 'conformance/ must not see reference_host/' \
+    conformance/A.cpp '#include "reference_host/B.h"'
+rejects "the tests of hosts see the library" 'conformance/ must not see datasource/' \
+    conformance/A.h '#include "datasource/B.h"'
+rejects "the tests of hosts see another third party" 'standard library alone' \
+    conformance/A.cpp '#include <pugixml.hpp>'
+rejects "the library sees GoogleTest" 'standard library alone' \
+    module/A.cpp '#include <gtest/gtest.h>'
+rejects "the library sees the tests of hosts" 'must not see conformance/' \
+    module/A.cpp '#include "conformance/HostUnderTest.h"'
 rejects "a neighbour is named without its folder" 'from the top of the tree' \
     apps/cli/A.cpp '#include "B.h"'
 rejects "a path climbs" 'from the top of the tree' \

@@ -6,13 +6,14 @@
 #   panels         sees the library, host/ and the standard library
 #   the library    (module, datasource, presets) sees itself, host/ and the standard library
 #   reference_host sees itself, host/ and third-party libraries
+#   conformance    (the tests of any host) sees itself, host/ and GoogleTest
 #   host           sees itself and the standard library
 set -euo pipefail
 
 cd "${1:?usage: include-arrows.sh ROOT}"
 
 folders=()
-for folder in apps panels module datasource presets reference_host host; do
+for folder in apps panels module datasource presets conformance reference_host host; do
     [ ! -d "$folder" ] || folders+=("$folder")
 done
 [ ${#folders[@]} -gt 0 ] || { echo "No source folder in $PWD"; exit 1; }
@@ -28,6 +29,7 @@ BEGIN {
     sees["host"] = "host"
     sees["module"] = sees["datasource"] = sees["presets"] = library
     sees["reference_host"] = "reference_host host"
+    sees["conformance"] = "conformance host"
     sees["panels"] = "panels " library
     sees["apps"] = "apps reference_host panels " library
     mayUseThirdParties["reference_host"] = mayUseThirdParties["apps"] = 1
@@ -52,6 +54,8 @@ function checkOwn(from, path,    to) {
 function checkForeign(from, path) {
     if (folderOf(path) in sees)
         complain("our own headers stand in quotes")
+    else if (from == "conformance" && path ~ /^(gmock|gtest)\//)
+        return
     else if (!(from in mayUseThirdParties) && path !~ /^[a-z][a-z0-9_]*$/)
         complain(from "/ may use the standard library alone")
 }
