@@ -67,6 +67,31 @@ public:
     int revertCount = 0;
 };
 
+/// Answers to one name more than those that were registered.
+class PanelWithDynamicName : public Panel
+{
+public:
+    PanelWithDynamicName()
+    {
+        dynamic.callback =
+            RepeatingCallbackMemento(RepeatingCallback<int()>(std::function<int()>([] { return 99; })));
+        dynamic.type = runtime_type<int()>();
+    }
+
+    [[nodiscard]] const DynamicDelegate* GetDynamicDelegate(OvxStringViewT name) const override
+    {
+        return name == L"get_Dynamic" ? &dynamic : Panel::GetDynamicDelegate(name);
+    }
+
+    [[nodiscard]] RuntimeType GetDynamicType(OvxStringViewT name) const override
+    {
+        return name == L"Dynamic" ? runtime_type<const int>() : Panel::GetDynamicType(name);
+    }
+
+private:
+    DynamicDelegate dynamic;
+};
+
 class BoundName : public testing::Test
 {
 protected:
@@ -162,6 +187,31 @@ TEST_F(BoundName, TellsItsTypeAndWhetherItCanBeWritten)
     EXPECT_FALSE(panel.IsWritableProperty(L"IsStyle"));
     EXPECT_FALSE(panel.IsWritableProperty(L"OnRevert"));
     EXPECT_FALSE(panel.IsWritableProperty(L"Unknown"));
+}
+
+TEST_F(BoundName, MayBeRegisteredAnewWhileItIsRead)
+{
+    panel.Register<int>(L"Once",
+                        [this, kept = std::string("a text that is too long to lie inside")]
+                        {
+                            panel.Register<int>(L"Once", [] { return 2; });
+                            return static_cast<int>(kept.size());
+                        });
+
+    EXPECT_EQ(panel.Read<int>(L"Once"), 37);
+    EXPECT_EQ(panel.Read<int>(L"Once"), 2);
+}
+
+TEST_F(BoundName, ThatComesAndGoesIsReadLikeARegisteredOne)
+{
+    const PanelWithDynamicName changing;
+
+    EXPECT_TRUE(changing.HasProperty(L"Dynamic"));
+    EXPECT_EQ(changing.Read<int>(L"Dynamic"), 99);
+    EXPECT_EQ(changing.ReadAny(L"Dynamic"), Any(99));
+    EXPECT_EQ(changing.GetTypeOf(L"Dynamic"), runtime_type<const int>());
+    EXPECT_FALSE(changing.IsWritableProperty(L"Dynamic"));
+    EXPECT_EQ(changing.Read<int>(L"IsStyle"), 1);
 }
 
 TEST_F(BoundName, HasACallUnderItsPrefixes)

@@ -148,6 +148,20 @@ TEST_F(EffectiveValue, FollowsWhatIsWrittenLater)
     EXPECT_TRUE(fill.GetProperty(Key(L"color")).IsEmpty());
 }
 
+TEST_F(EffectiveValue, StaysReadableWhileOthersAreRead)
+{
+    SetInFill(named, L"color", 1);
+    SetInFill(base, L"type", 2);
+
+    const OvxUtils::Any& color = fill.GetProperty(Key(L"color"));
+    const OvxUtils::Any& type = object.GetPathProperty(Path({L"fill", L"type"}));
+    const OvxUtils::Any& width = fill.GetProperty(Key(L"width"));
+
+    EXPECT_EQ(color, Number(1));
+    EXPECT_EQ(type, Number(2));
+    EXPECT_EQ(width, Nothing());
+}
+
 TEST_F(EffectiveValue, KeepsItsTypeAndNotJustItsLook)
 {
     const OvxUtils::Any text{OvxStringT(L"solid")};
