@@ -108,7 +108,10 @@ void DestroyDataSourcesThatWait()
 {
     auto& waiting = Lasting<Lives>().waiting;
     while (!waiting.empty() && !DeliveryScope::IsAnyOpen())
-        const std::unique_ptr<IDataSource> ended(waiting.front()); // Takes itself off the list.
+    {
+        const std::unique_ptr<IDataSource> ended(waiting.front());
+        waiting.erase(waiting.begin());
+    }
 }
 
 } // namespace TinyHost
@@ -134,11 +137,14 @@ void DataSourceImpl::SetDataSourceProvider(IDataContext* provider)
 
 void DataSourceImpl::Destroy()
 {
-    // During a notification it may be on the way through this very object.
-    auto& waiting = TinyHost::Lasting<TinyHost::Lives>().waiting;
     if (!TinyHost::DeliveryScope::IsAnyOpen())
+    {
         const std::unique_ptr<IDataSource> ended(this);
-    else if (std::ranges::find(waiting, this) == waiting.end())
+        return;
+    }
+    // The notification may be on its way through this very object.
+    auto& waiting = TinyHost::Lasting<TinyHost::Lives>().waiting;
+    if (std::ranges::find(waiting, this) == waiting.end())
         waiting.push_back(this);
 }
 

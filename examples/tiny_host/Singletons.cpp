@@ -163,16 +163,15 @@ void PostConstructible::PostConstruct()
 
 void PostConstructible::CallOnPostConstruct(std::function<void()> delegate)
 {
-    if (TinyHost::Keeps(TinyHost::Promise::DelegatesRunInOrder))
-        queued.push_back(std::move(delegate));
-    else
-        queued.insert(queued.begin(), std::move(delegate));
+    queued.push_back(std::move(delegate));
 }
 
 void PostConstructible::FinishConstruction()
 {
     if (std::exchange(finished, true))
         return;
+    if (!TinyHost::Keeps(TinyHost::Promise::DelegatesRunInOrder))
+        std::ranges::reverse(queued);
     for (std::size_t i = 0; i < queued.size(); ++i)
     {
         // A copy: the delegate may queue further ones.

@@ -2,9 +2,11 @@
 // each item is allocated by itself.
 
 #include "host/ui_list/WCmnUI_List.h"
+#include "tiny_host/Lasting.h"
 #include "tiny_host/broken/Promises.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace
@@ -25,6 +27,14 @@ void Number(Items& items)
 {
     for (std::size_t i = 0; i < items.size(); ++i)
         items[i]->SetIndex(static_cast<int>(i));
+}
+
+/// How items must not be kept. Who still has their old addresses finds them there, and none of the list's.
+void MoveElsewhere(Items& items)
+{
+    Items moved = CopyOf(items);
+    std::ranges::move(items, std::back_inserter(TinyHost::Lasting<Items>()));
+    items = std::move(moved);
 }
 
 } // namespace
@@ -55,7 +65,7 @@ WCmnUI_ListItem* WCmnUI_List::InsertItem(std::size_t position, const WCmnUI_List
 {
     auto added = std::make_unique<WCmnUI_ListItem>(item);
     if (!TinyHost::Keeps(TinyHost::Promise::ItemsKeepTheirAddresses))
-        items = CopyOf(items);
+        MoveElsewhere(items);
     WCmnUI_ListItem* const address = added.get();
     const std::size_t place = std::min(position, items.size());
     items.insert(items.begin() + static_cast<std::ptrdiff_t>(place), std::move(added));
