@@ -70,19 +70,6 @@ void Write(Style* destination, const PropertyPaths& paths, const Style& change)
     }
 }
 
-/// Tells whether two styles set the same and have the same parents, at every depth.
-bool AreAlike(const Style& one, const Style& other)
-{
-    const StyleData& left = StyleData::Of(one);
-    const StyleData& right = StyleData::Of(other);
-    return one.GetParent() == other.GetParent() && left.properties == right.properties &&
-           std::ranges::equal(left.substyles, right.substyles,
-                              [](const auto& each, const auto& counterpart) {
-                                  return each.first == counterpart.first &&
-                                         AreAlike(*each.second, *counterpart.second);
-                              });
-}
-
 /// Gives `to` the parents that `from` has, at every depth.
 void CopyParents(Style& to, const Style& from)
 {
@@ -176,28 +163,18 @@ void Document::ReplaceProperties(Style* style, const PropertyPaths& paths, std::
 void Document::CreateStyle(const PropertyKey& category, const OvxStringT& name)
 {
     Style* const created = AddStyle(category, name);
-    if (created == nullptr)
-        return;
-    std::vector<Style*> parts;
-    for (Style* const selected : selection)
-    {
-        Style* const part = MayInherit(selected) ? PartOf(selected, category) : nullptr;
-        if (part != nullptr && (parts.empty() || AreAlike(*parts.front(), *part)))
-            parts.push_back(part);
-    }
-    if (parts.empty())
+    Style* const first =
+        selection.empty() || !MayInherit(selection.front()) ? nullptr : PartOf(selection.front(), category);
+    if (created == nullptr || first == nullptr)
         return;
 
     // It takes over the parents as well: what they set must not come before what it sets.
     const Style nothing;
-    created->SetProperties(Styles::GetOverriddenPropertyPaths(*parts.front()), parts.front());
-    CopyParents(*created, *parts.front());
-    for (Style* const part : parts)
-    {
-        part->SetProperties(Styles::GetOverriddenPropertyPaths(*part), &nothing);
-        ClearParents(*part);
-        part->SetParent(created);
-    }
+    created->SetProperties(Styles::GetOverriddenPropertyPaths(*first), first);
+    CopyParents(*created, *first);
+    first->SetProperties(Styles::GetOverriddenPropertyPaths(*first), &nothing);
+    ClearParents(*first);
+    first->SetParent(created);
 }
 
 void Document::ApplyStyle(Style* style, bool /*reserved*/)
