@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cwchar>
 #include <string>
 #include <string_view>
 

@@ -2,7 +2,9 @@
 
 #include "tiny_host/XmlElement.h"
 
+#include <algorithm>
 #include <cwchar>
+#include <string>
 #include <string_view>
 
 namespace TinyHost
@@ -78,10 +80,10 @@ private:
 
     OvxStringT TakeName()
     {
-        constexpr std::wstring_view kNoPartOfNames = L" \t\r\n<>&'\"/=";
+        constexpr std::wstring_view kNoPartOfNames = L" \t\r\n!\"#$%&'()*+,/;<=>?@[\\]^`{|}~";
+        constexpr std::wstring_view kNeverFirst = L"-.0123456789";
         const std::wstring_view name = rest.substr(0, rest.find_first_of(kNoPartOfNames));
-        if (name.empty() || name.front() == L'-' || name.front() == L'.' ||
-            (name.front() >= L'0' && name.front() <= L'9'))
+        if (name.empty() || kNeverFirst.find(name.front()) != kNeverFirst.npos)
             Fail();
         else
             rest.remove_prefix(name.size());
