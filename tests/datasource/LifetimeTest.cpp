@@ -3,10 +3,10 @@
 
 #include "host/data_binding/DataSourceFactory.h"
 #include "host/data_binding/IDataSourceRegistrar.h"
-#include "reference_host/services/Application.h"
 #include "tests/datasource/support/HostedTest.h"
 #include "tests/datasource/support/RecordingApplicator.h"
 #include "tests/datasource/support/RecordingContext.h"
+#include "tests/host_pieces/HostPieces.h"
 
 #include <memory>
 
@@ -82,8 +82,8 @@ TEST_F(Lifetime, BeginsAskingNobodyAnything)
 
 TEST_F(Lifetime, BeginsRegisteringNothingAnywhere)
 {
-    ReferenceHost::Application application;
-    application.SetObjectPropertiesContext(&context);
+    HostPieces::UserInterface userInterface;
+    userInterface.SetObjectPropertiesContext(&context);
     const auto factoriesBefore = IDataSourceRegistrar::GetInstance().GetFactories();
     log.Clear();
 
@@ -179,8 +179,8 @@ TEST_F(Lifetime, AttachesToTheApplicatorOnce)
 
 TEST_F(Lifetime, ServesObjectPropertiesInTheApplicationsObjectPropertiesContext)
 {
-    ReferenceHost::Application application;
-    application.SetObjectPropertiesContext(&context);
+    HostPieces::UserInterface userInterface;
+    userInterface.SetObjectPropertiesContext(&context);
 
     CompleteIn(&context);
 
@@ -190,9 +190,9 @@ TEST_F(Lifetime, ServesObjectPropertiesInTheApplicationsObjectPropertiesContext)
 
 TEST_F(Lifetime, ServesNoObjectPropertiesInAnyOtherContext)
 {
-    ReferenceHost::Application application;
+    HostPieces::UserInterface userInterface;
     RecordingContext other(log);
-    application.SetObjectPropertiesContext(&other);
+    userInterface.SetObjectPropertiesContext(&other);
 
     CompleteIn(&context);
 
@@ -202,8 +202,8 @@ TEST_F(Lifetime, ServesNoObjectPropertiesInAnyOtherContext)
 
 TEST_F(Lifetime, ServesNoObjectPropertiesWithoutAContextWhereTheApplicationHasOne)
 {
-    ReferenceHost::Application application;
-    application.SetObjectPropertiesContext(&context);
+    HostPieces::UserInterface userInterface;
+    userInterface.SetObjectPropertiesContext(&context);
 
     CompleteIn(nullptr);
 
@@ -212,7 +212,7 @@ TEST_F(Lifetime, ServesNoObjectPropertiesWithoutAContextWhereTheApplicationHasOn
 
 TEST_F(Lifetime, ServesNoObjectPropertiesInAContextWhereTheApplicationHasNone)
 {
-    ReferenceHost::Application application;
+    HostPieces::UserInterface userInterface;
 
     CompleteIn(&context);
 
@@ -228,11 +228,11 @@ TEST_F(Lifetime, ServesNoObjectPropertiesWithoutAUserInterface)
 
 TEST_F(Lifetime, LearnsOnceWhetherItServesObjectProperties)
 {
-    ReferenceHost::Application application;
-    application.SetObjectPropertiesContext(&context);
+    HostPieces::UserInterface userInterface;
+    userInterface.SetObjectPropertiesContext(&context);
     CompleteIn(&context);
 
-    application.SetObjectPropertiesContext(nullptr);
+    userInterface.SetObjectPropertiesContext(nullptr);
 
     EXPECT_EQ(created->IsObjectProperties(), 1);
 }

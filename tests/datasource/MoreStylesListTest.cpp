@@ -1,6 +1,7 @@
 // The list of styles that do not fit into the drop-down, and the dialog that shows it.
 
 #include "tests/datasource/support/StyleListTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 namespace
 {
@@ -184,8 +185,8 @@ TEST_F(MoreStylesList, KnowsObjectPropertiesByTheCurrentContext)
 {
     EXPECT_EQ(panel.Read<WCmnUI_Guid>(L"PropertyPanelStateIdentifier"), WCmnUI_Guid(L"State.ObjectStyles"));
 
-    ReferenceHost::Application application;
-    application.SetObjectPropertiesContext(&context);
+    HostPieces::UserInterface userInterface;
+    userInterface.SetObjectPropertiesContext(&context);
 
     EXPECT_EQ(panel.GetPropertyPanelStateIdentifier(), WCmnUI_Guid(L"State.ObjectProperties"));
 }

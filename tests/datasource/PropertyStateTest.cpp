@@ -1,8 +1,8 @@
 // Where the targets' values come from: own, inherited, or different among them.
 
 #include "host/style_model/CategoryNames.h"
-#include "reference_host/style_model/StyleHosting.h"
 #include "tests/datasource/support/HostedTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 namespace
 {
@@ -161,14 +161,14 @@ TEST_F(PropertyState, TakesAFirstStyleThatWentForOneThatSetsNothing)
 TEST_F(PropertyState, LooksAtTheTargetsThemselvesAndMakesNoSubstyles)
 {
     Target(panel, {&overriding, &inheriting});
-    const std::size_t stylesBefore = ReferenceHost::LiveStyleCount();
+    const std::size_t stylesBefore = HostPieces::CountLiveStyles();
     log.Clear();
 
     static_cast<void>(panel.GetActivePropertyState(L"color"));
 
     EXPECT_THAT(log.LinesOf({"panel.GetTargetStyle", "panel.GetNumTargetStyles", "panel.HasTargets"}),
                 IsEmpty());
-    EXPECT_EQ(ReferenceHost::LiveStyleCount(), stylesBefore);
+    EXPECT_EQ(HostPieces::CountLiveStyles(), stylesBefore);
 }
 
 // Several paths
@@ -233,11 +233,11 @@ TEST_F(PropertyState, OfTheWholeStyleIsInheritedWhenAllSubstylesAreEmpty)
     FillOf(inheriting)
         .GetSubstyleAndCreateIfMissing(Key(L"gradient"), Key(L"gradient"))
         ->GetSubstyleAndCreateIfMissing(Key(L"start"), Key(L"start"));
-    const std::size_t stylesBefore = ReferenceHost::LiveStyleCount();
+    const std::size_t stylesBefore = HostPieces::CountLiveStyles();
 
     EXPECT_EQ(StateOf({&inheriting}, L"style"), State::Inherited);
 
-    EXPECT_EQ(ReferenceHost::LiveStyleCount(), stylesBefore) << "the style keeps its empty substyles";
+    EXPECT_EQ(HostPieces::CountLiveStyles(), stylesBefore) << "the style keeps its empty substyles";
 }
 
 TEST_F(PropertyState, OfTheWholeStyleComparesFurtherTargetsByPropertiesOfTheirOwn)

@@ -1,9 +1,8 @@
 // What a panel's section is called: its category, and the style that the first target inherits from.
 
 #include "host/style_model/CategoryNames.h"
-#include "reference_host/style_model/CategoryRegistry.h"
-#include "reference_host/style_model/StyleHosting.h"
 #include "tests/datasource/support/HostedTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 namespace
 {
@@ -21,7 +20,7 @@ protected:
     /// under that key, and then give the key.
     void UseCategory(const wchar_t* displayName)
     {
-        ReferenceHost::CategoryRegistry::GetInstance().RegisterCategory(Key(displayName), displayName);
+        HostPieces::RegisterCategory(Key(displayName), displayName);
         panel.category = Key(displayName);
     }
 
@@ -158,7 +157,7 @@ TEST_F(SectionTitle, OfExternalTargetsComesFromTheirOwnSheet)
     RecordingSheet library(log, "library");
     library.entries.push_back({L"Library Base", &base});
     source.externalSheets[L"Library"] = &library;
-    ReferenceHost::SetExternalSheet(box, L"Library", L"");
+    HostPieces::MoveToExternalSheet(box, L"Library", L"");
 
     Target(panel, {&box});
 
@@ -171,7 +170,7 @@ TEST_F(SectionTitle, OfExternalTargetsComesFromTheirOwnSheet)
 
 TEST_F(SectionTitle, OfExternalTargetsIsTheCategoryAloneWithoutTheirSheet)
 {
-    ReferenceHost::SetExternalSheet(box, L"Library", L"");
+    HostPieces::MoveToExternalSheet(box, L"Library", L"");
 
     Target(panel, {&box});
 
@@ -243,7 +242,7 @@ TEST_F(SectionTitle, IsFilledOnceItsCategoryBecomesKnown)
     panel.category = Key(L"Late");
     Target(panel, {});
 
-    ReferenceHost::CategoryRegistry::GetInstance().RegisterCategory(Key(L"Late"), L"Late & Later");
+    HostPieces::RegisterCategory(Key(L"Late"), L"Late & Later");
 
     EXPECT_EQ(panel.GetSectionTitle(), L"Late & Later");
 }

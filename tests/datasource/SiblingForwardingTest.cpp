@@ -1,14 +1,13 @@
 // Which siblings a write is handed on to, when, and what they are given.
 
-#include "reference_host/services/Application.h"
-#include "reference_host/style_model/StyleHosting.h"
 #include "tests/datasource/support/SiblingWritingTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 namespace
 {
 
 using namespace Styles;
-using ReferenceHost::LiveStyleCount;
+using HostPieces::CountLiveStyles;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -54,11 +53,11 @@ TEST_F(SiblingForwarding, HandsOnAMissingOverrideListAsMissing)
 TEST_F(SiblingForwarding, HandsOnACopyToEachWhileTheChangeLivesOn)
 {
     std::vector<std::size_t> alive;
-    const std::size_t before = LiveStyleCount();
+    const std::size_t before = CountLiveStyles();
     log.onLine = [&](const std::string& line)
     {
         if (line.starts_with("modifier.Modify"))
-            alive.push_back(LiveStyleCount() - before);
+            alive.push_back(CountLiveStyles() - before);
     };
 
     WriteColor(3);
@@ -191,8 +190,8 @@ TEST_F(SiblingForwarding, PassesOverOneThatHasComeToDefaultStyles)
 
 TEST_F(SiblingForwarding, PassesOverOneThatServesObjectProperties)
 {
-    ReferenceHost::Application application;
-    application.SetObjectPropertiesContext(&context);
+    HostPieces::UserInterface userInterface;
+    userInterface.SetObjectPropertiesContext(&context);
     hostObject.applicator = nullptr;
     first.SetDataSourceProvider(&context);
     first.PostConstruct();

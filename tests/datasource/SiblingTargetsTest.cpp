@@ -1,9 +1,9 @@
 // Whose targets a data source shows besides its own.
 
 #include "host/style_model/CategoryNames.h"
-#include "reference_host/services/Application.h"
 #include "tests/datasource/support/HostedTest.h"
 #include "tests/datasource/support/RecordingContext.h"
+#include "tests/host_pieces/HostPieces.h"
 
 namespace
 {
@@ -129,8 +129,8 @@ TEST_F(SiblingTargets, AreNotTakenFromASiblingOnDefaultStyles)
 TEST_F(SiblingTargets, AreNotTakenFromASiblingThatServesObjectProperties)
 {
     RecordingContext context(log);
-    ReferenceHost::Application application;
-    application.SetObjectPropertiesContext(&context);
+    HostPieces::UserInterface userInterface;
+    userInterface.SetObjectPropertiesContext(&context);
     first.SetDataSourceProvider(&context);
     first.Complete();
     Target(first, {&a});

@@ -2,8 +2,8 @@
 // what it inherits from, and which are not.
 
 #include "host/style_model/CategoryNames.h"
-#include "reference_host/style_model/StyleHosting.h"
 #include "tests/datasource/support/HostedTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 namespace
 {
@@ -14,9 +14,9 @@ using namespace Styles;
 class StyleEditing : public HostedTest
 {
 protected:
-    static void Close(Style& style) { ReferenceHost::SetExternalSheet(style, L"Library", L""); }
+    static void Close(Style& style) { HostPieces::MoveToExternalSheet(style, L"Library", L""); }
 
-    static void Link(Style& style) { ReferenceHost::SetExternalSheet(style, L"Library", L"library.fodg"); }
+    static void Link(Style& style) { HostPieces::MoveToExternalSheet(style, L"Library", L"library.fodg"); }
 
     bool IsEnabledFor(const std::vector<Style*>& targets)
     {

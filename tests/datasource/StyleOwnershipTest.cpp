@@ -2,15 +2,15 @@
 // many styles live afterwards as before.
 
 #include "host/colour/CLR_COLORSPEC.h"
-#include "reference_host/style_model/StyleHosting.h"
 #include "tests/datasource/support/SiblingWritingTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 namespace
 {
 
 using namespace Styles;
+using HostPieces::CountLiveStyles;
 using OvxUtils::Any;
-using ReferenceHost::LiveStyleCount;
 
 class StyleOwnership;
 
@@ -191,21 +191,21 @@ protected:
 
 TEST_P(StyleOwnership, LeavesAsManyStylesAsThereWere)
 {
-    const std::size_t before = LiveStyleCount();
+    const std::size_t before = CountLiveStyles();
 
     Run();
 
-    EXPECT_EQ(LiveStyleCount(), before);
+    EXPECT_EQ(CountLiveStyles(), before);
 }
 
 TEST_P(StyleOwnership, LeavesAsManyStylesAsThereWereWhicheverCallFails)
 {
-    const std::size_t before = LiveStyleCount();
+    const std::size_t before = CountLiveStyles();
 
     for (std::size_t failing = 0; RunToFailure(failing); ++failing)
     {
         panel.EndGroupModify(false);
-        EXPECT_EQ(LiveStyleCount(), before) << "after the failure of call " << failing;
+        EXPECT_EQ(CountLiveStyles(), before) << "after the failure of call " << failing;
     }
 }
 
@@ -235,38 +235,38 @@ class OpenGroup : public WritingTest
 
 TEST_F(OpenGroup, EndsWithItsDataSource)
 {
-    const std::size_t before = LiveStyleCount();
+    const std::size_t before = CountLiveStyles();
     {
         RecordingPanel dropped(log, "dropped");
         Target(dropped, {}, /*isDefault=*/true);
         dropped.StartGroupModify();
-        ASSERT_EQ(LiveStyleCount(), before + 1);
+        ASSERT_EQ(CountLiveStyles(), before + 1);
     }
 
-    EXPECT_EQ(LiveStyleCount(), before);
+    EXPECT_EQ(CountLiveStyles(), before);
 }
 
 TEST_F(OpenGroup, GivesWayToTheNext)
 {
     Target(panel, {}, /*isDefault=*/true);
-    const std::size_t before = LiveStyleCount();
+    const std::size_t before = CountLiveStyles();
 
     panel.StartGroupModify();
     panel.StartGroupModify();
 
-    EXPECT_EQ(LiveStyleCount(), before + 1);
+    EXPECT_EQ(CountLiveStyles(), before + 1);
 }
 
 TEST_F(OpenGroup, KeepsNoneOfTheChangesThatItGathers)
 {
     Target(panel, {}, /*isDefault=*/true);
     panel.StartGroupModify();
-    const std::size_t before = LiveStyleCount();
+    const std::size_t before = CountLiveStyles();
 
     WriteColor(3);
     WriteColor(4);
 
-    EXPECT_EQ(LiveStyleCount(), before);
+    EXPECT_EQ(CountLiveStyles(), before);
 }
 
 } // namespace

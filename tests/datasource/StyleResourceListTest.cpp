@@ -1,8 +1,8 @@
 // The drop-down of styles: what it offers, in which form, and what picking an entry does.
 
 #include "host/resources/Resources.h"
-#include "reference_host/xml/LiveXmlTrees.h"
 #include "tests/datasource/support/StyleListTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 namespace
 {
@@ -181,7 +181,9 @@ TEST_F(StyleResourceList, HoldsTheMemoryOfOneListHoweverOftenItIsOpened)
     NameFills(30);
     Target(panel, {&ObjectWithFill()});
     static_cast<void>(panel.GetStyleResourceList());
-    const std::size_t treesBefore = ReferenceHost::CountLiveXmlTrees();
+    const auto treesBefore = HostPieces::CountLiveXmlTrees();
+    if (!treesBefore)
+        GTEST_SKIP() << "the host does not count them";
 
     for (int opened = 0; opened < 10'000; ++opened)
     {
@@ -189,7 +191,7 @@ TEST_F(StyleResourceList, HoldsTheMemoryOfOneListHoweverOftenItIsOpened)
         static_cast<void>(panel.Read<WXmlNode>(L"StyleResourceList"));
     }
 
-    EXPECT_EQ(ReferenceHost::CountLiveXmlTrees(), treesBefore);
+    EXPECT_EQ(HostPieces::CountLiveXmlTrees(), treesBefore);
 }
 
 TEST_F(StyleResourceList, IsACommandWhoseIdReadsZero)

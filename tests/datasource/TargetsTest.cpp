@@ -1,8 +1,8 @@
 // What is kept of the targets that are handed in, and the predicates on them.
 
 #include "host/style_model/CategoryNames.h"
-#include "reference_host/style_model/CategoryRegistry.h"
 #include "tests/datasource/support/HostedTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 #include <algorithm>
 
@@ -112,8 +112,7 @@ TEST_F(Targets, HaveNoCategoryUnlessAPanelGivesOne)
 
 TEST_F(Targets, HaveThePropertiesThatTheHostGivesTheirCategory)
 {
-    ReferenceHost::CategoryRegistry::GetInstance().RegisterProperties(Key(L"TargetsTest"),
-                                                                      {Key(L"width"), Key(L"color")});
+    HostPieces::RegisterProperties(Key(L"TargetsTest"), {Key(L"width"), Key(L"color")});
     BareDatasource bare;
 
     const PropertyPaths paths =

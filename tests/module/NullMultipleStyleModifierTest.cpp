@@ -2,7 +2,7 @@
 
 #include "host/style_model/CategoryNames.h"
 #include "host/style_model/PooledString.h"
-#include "reference_host/style_model/StyleHosting.h"
+#include "tests/host_pieces/HostPieces.h"
 #include "tests/module/VirtualSlot.h"
 
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@
 namespace
 {
 
-using ReferenceHost::LiveStyleCount;
+using HostPieces::CountLiveStyles;
 using Styles::PropertyKey;
 using Styles::Style;
 
@@ -44,23 +44,23 @@ TEST_F(NullModifier, IsOneObject)
 
 TEST_F(NullModifier, EndsTheChangeStyle)
 {
-    const std::size_t before = LiveStyleCount();
+    const std::size_t before = CountLiveStyles();
     auto change = FillColorChange();
-    ASSERT_EQ(LiveStyleCount(), before + 2);
+    ASSERT_EQ(CountLiveStyles(), before + 2);
 
     modifier.Modify({}, {}, {{Styles::FillStyleCategoryName, ColorKey()}}, std::move(change), {}, false, true,
                     nullptr);
 
-    EXPECT_EQ(LiveStyleCount(), before);
+    EXPECT_EQ(CountLiveStyles(), before);
 }
 
 TEST_F(NullModifier, TakesNoChangeStyle)
 {
-    const std::size_t before = LiveStyleCount();
+    const std::size_t before = CountLiveStyles();
 
     modifier.Modify({nullptr}, {}, {}, nullptr, {}, false, false, nullptr);
 
-    EXPECT_EQ(LiveStyleCount(), before);
+    EXPECT_EQ(CountLiveStyles(), before);
 }
 
 TEST_F(NullModifier, WritesNothingToTheTargets)

@@ -1,10 +1,11 @@
 // List properties that are added to the dialog's data source by name, and the dynamic data source below it.
 
 #include "host/data_binding/IDataContext.h"
+#include "host/data_binding/IDataSourceFactory.h"
+#include "host/data_binding/IDataSourceRegistrar.h"
 #include "presets/StylePresets.h"
 #include "presets/WDynamicProperty.h"
-#include "reference_host/services/Application.h"
-#include "reference_host/services/DataContext.h"
+#include "tests/host_pieces/HostPieces.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,17 +13,41 @@
 namespace
 {
 
+/// A context that knows one data source, by any name, and ends it.
+class ContextOfOne final : public IDataContext
+{
+public:
+    explicit ContextOfOne(const wchar_t* typeKey)
+        : only(IDataSourceRegistrar::GetInstance().FindFactory(typeKey)->Create(this))
+    {
+    }
+
+    ContextOfOne(const ContextOfOne&) = delete;
+    ContextOfOne& operator=(const ContextOfOne&) = delete;
+
+    ~ContextOfOne() { only->Destroy(); }
+
+    IHostObject* GetHostObject() override { return nullptr; }
+
+    IDataSource* GetDataSource(const OvxStringT& /*name*/) override { return only; }
+
+    IDialogService* GetDialogService() override { return nullptr; }
+
+private:
+    IDataSource* only;
+};
+
 /// The dialog's data source in the host's current context.
 class AttachedPresetList : public testing::Test
 {
 protected:
-    AttachedPresetList() { application.SetObjectPropertiesContext(&context); }
+    AttachedPresetList() { userInterface.SetObjectPropertiesContext(&context); }
 
-    ~AttachedPresetList() override { application.SetObjectPropertiesContext(nullptr); }
+    ~AttachedPresetList() override { userInterface.SetObjectPropertiesContext(nullptr); }
 
-    ReferenceHost::Application application;
-    ReferenceHost::DataContext context{nullptr, nullptr};
-    StylePresets* presets = dynamic_cast<StylePresets*>(context.CreateDataSource(L"StylePresets"));
+    HostPieces::UserInterface userInterface;
+    ContextOfOne context{L"StylePresets"};
+    StylePresets* presets = dynamic_cast<StylePresets*>(context.GetDataSource(L"StylePresets"));
 };
 
 TEST_F(AttachedPresetList, ReadsTheCachedListOfItsCategory)
@@ -69,10 +94,10 @@ TEST_F(AttachedPresetList, IsNotAddedWithoutACategory)
 
 TEST_F(AttachedPresetList, NeedsTheDialogsDataSource)
 {
-    application.SetObjectPropertiesContext(nullptr);
+    userInterface.SetObjectPropertiesContext(nullptr);
     AttachPresetList(L"FillPresets");
 
-    application.SetObjectPropertiesContext(&context);
+    userInterface.SetObjectPropertiesContext(&context);
 
     EXPECT_EQ(presets->FindDynamicProperty(L"FillPresets"), nullptr);
 }

@@ -1,15 +1,15 @@
 #include "tests/datasource/support/HostedTest.h"
+#include "tests/host_pieces/HostPieces.h"
 
 #include "module/StylesCommon.h"
-#include "reference_host/style_model/StyleHosting.h"
 
-StyleLeakTest::StyleLeakTest() : styleCountBefore(ReferenceHost::LiveStyleCount())
+StyleLeakTest::StyleLeakTest() : styleCountBefore(HostPieces::CountLiveStyles())
 {
 }
 
 StyleLeakTest::~StyleLeakTest()
 {
-    EXPECT_EQ(ReferenceHost::LiveStyleCount(), styleCountBefore) << "styles were leaked";
+    EXPECT_EQ(HostPieces::CountLiveStyles(), styleCountBefore) << "styles were leaked";
 }
 
 HostedTest::HostedTest()

@@ -2,7 +2,7 @@
 
 #include "host/data_binding/IDataSourceFactory.h"
 #include "host/data_binding/IDataSourceRegistrar.h"
-#include "reference_host/services/NativePaths.h"
+#include "host/utils/Utf8.h"
 
 RecordingPresetManager::RecordingPresetManager(CallLog& callLog) : log(callLog)
 {
@@ -29,13 +29,22 @@ OvxStringT RecordingPresetManager::GetPresetFileName(Styles::PresetLocation /*lo
 
 OvxStringT RecordingPresetManager::GetCustomConfigurationDirectory()
 {
-    return ReferenceHost::PathToText(folder);
+    return OvxUtils::FromUtf8(folder.string());
 }
 
-int RecordingConfirmation::Confirm(const OvxStringT& text, int flags)
+RecordingConfirmation::RecordingConfirmation(CallLog& log)
 {
-    log.Add("confirm(" + Describe(text) + ", " + std::to_string(flags) + ")");
-    return answer;
+    HostPieces::SetConfirmation(
+        [this, &log](const OvxStringT& text, int flags)
+        {
+            log.Add("confirm(" + Describe(text) + ", " + std::to_string(flags) + ")");
+            return answer;
+        });
+}
+
+RecordingConfirmation::~RecordingConfirmation()
+{
+    HostPieces::SetConfirmation({});
 }
 
 PresetsTest::PresetsTest()
@@ -44,8 +53,7 @@ PresetsTest::PresetsTest()
     source.fillsPresetItems = true;
     log.SetName(&context, "context");
     context.dialogs = &dialogs;
-    application.SetObjectPropertiesContext(&context);
-    application.GetDialogs().SetFrontEnd(&confirmation);
+    userInterface.SetObjectPropertiesContext(&context);
     dialogSource.reset(IDataSourceRegistrar::GetInstance().FindFactory(L"StylePresets")->Create(&context));
     context.dataSources[L"StylePresets"] = dialogSource.get();
     panel.presetCategory = L"FillPresets";
@@ -56,7 +64,7 @@ PresetsTest::PresetsTest()
 PresetsTest::~PresetsTest()
 {
     log.onLine = nullptr;
-    application.SetObjectPropertiesContext(nullptr);
+    userInterface.SetObjectPropertiesContext(nullptr);
 }
 
 void PresetsTest::Keep(const wchar_t* name)

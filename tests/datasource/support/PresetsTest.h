@@ -4,10 +4,9 @@
 #include "host/data_binding/IDataSource.h"
 #include "host/data_binding/IReflectable.h"
 #include "host/style_model/StylePresetManager.h"
-#include "reference_host/services/Application.h"
-#include "reference_host/services/IDialogFrontEnd.h"
 #include "tests/datasource/support/HostedTest.h"
 #include "tests/datasource/support/RecordingContext.h"
+#include "tests/host_pieces/HostPieces.h"
 
 #include <filesystem>
 #include <memory>
@@ -36,22 +35,15 @@ private:
 };
 
 /// Answers questions as the test has set, and takes them down.
-class RecordingConfirmation final : public ReferenceHost::IDialogFrontEnd
+class RecordingConfirmation final
 {
 public:
-    explicit RecordingConfirmation(CallLog& callLog) : log(callLog) {}
+    explicit RecordingConfirmation(CallLog& log);
+    RecordingConfirmation(const RecordingConfirmation&) = delete;
+    RecordingConfirmation& operator=(const RecordingConfirmation&) = delete;
+    ~RecordingConfirmation();
 
-    /// The dialogs of these tests are shown by RecordingDialogs.
-    void ShowDialog(const OvxStringT& /*key*/, IDataContext* /*context*/) override {}
-
-    void CloseDialog(const OvxStringT& /*key*/, bool /*isAccepted*/) override {}
-
-    int Confirm(const OvxStringT& text, int flags) override;
-
-    int answer = ReferenceHost::kAnswerYes;
-
-private:
-    CallLog& log;
+    int answer = 6; ///< Yes.
 };
 
 /// A fill panel that offers presets under "FillPresets", in the host's current context, in which the data
@@ -81,7 +73,7 @@ protected:
     RecordingConfirmation confirmation{log};
     RecordingContext context{log};
     RecordingDialogs dialogs{log};
-    ReferenceHost::Application application;
+    HostPieces::UserInterface userInterface;
 
 private:
     struct End

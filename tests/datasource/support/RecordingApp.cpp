@@ -1,6 +1,6 @@
 #include "tests/datasource/support/RecordingApp.h"
 
-#include "reference_host/services/InterfaceIds.h"
+#include "conformance/HostQueries.h"
 #include "tests/datasource/support/Description.h"
 
 bool RecordingStylesApp::IsExcludedStyleName(const OvxStringT& name)
@@ -23,7 +23,7 @@ Styles::StylePresetManager& RecordingStylesApp::GetStylePresetManager()
 
 void RecordingApp::QueryInterface(const InterfaceId& id, void** out)
 {
-    if (id == ReferenceHost::kStylesSourceAppId && stylesApp != nullptr)
+    if (id == HostTests::kStylesSourceAppId && stylesApp != nullptr)
         *out = stylesApp;
 }
 
@@ -35,6 +35,6 @@ IStyleSourceProvider* RecordingApp::GetActiveStyleSourceProvider()
 
 void RecordingApp::Provider::QueryInterface(const InterfaceId& id, void** out)
 {
-    if (id == ReferenceHost::kStylesSourceId)
+    if (id == HostTests::kStylesSourceId)
         *out = app.source;
 }

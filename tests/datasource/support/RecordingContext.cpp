@@ -1,6 +1,6 @@
 #include "tests/datasource/support/RecordingContext.h"
 
-#include "reference_host/services/InterfaceIds.h"
+#include "conformance/HostQueries.h"
 #include "tests/datasource/support/Description.h"
 
 void RecordingDialogs::ShowDialog(const OvxStringT& key, IDataContext* context)
@@ -17,9 +17,9 @@ void RecordingDialogs::CloseDialog(const OvxStringT& key, int result, int reserv
 void* RecordingHostObject::Query(const InterfaceId& id)
 {
     log.Add("hostObject.Query(" + Describe(id) + ")");
-    if (id == ReferenceHost::kStyleApplicatorId)
+    if (id == HostTests::kStyleApplicatorId)
         return applicator;
-    if (id == ReferenceHost::kStyleApplicatorNumberId)
+    if (id == HostTests::kStyleApplicatorNumberId)
         return reinterpret_cast<void*>(applicatorNumber);
     return nullptr;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "reference_host/services/Application.h"
 #include "tests/datasource/support/HostedTest.h"
 #include "tests/datasource/support/RecordingContext.h"
 
