@@ -42,7 +42,7 @@ struct Pool
 class NamedCategory final : public StyleCategory
 {
 public:
-    explicit NamedCategory(const PropertyKey& category) : textKey(L"category." + category.GetString()) {}
+    explicit NamedCategory(OvxStringT keyOfItsName) : textKey(std::move(keyOfItsName)) {}
 
     [[nodiscard]] OvxStringT GetDisplayName() const override
     {
@@ -53,14 +53,19 @@ private:
     OvxStringT textKey;
 };
 
-/// Knows the categories of the constant keys.
+/// Knows the categories of the constant keys, and those that are registered.
 class TinyStyleManager final : public StyleManager
 {
 public:
     TinyStyleManager()
     {
         for (std::size_t i = 0; i < kConstants.size(); ++i)
-            categories.emplace(ConstantKey(i), std::make_shared<NamedCategory>(ConstantKey(i)));
+            Add(ConstantKey(i), L"category." + ConstantKey(i).GetString());
+    }
+
+    void Add(const PropertyKey& category, const OvxStringT& textKey)
+    {
+        categories.emplace(category, std::make_shared<NamedCategory>(textKey));
     }
 
     [[nodiscard]] std::shared_ptr<StyleCategory> GetCategory(const PropertyKey& category) override
@@ -146,6 +151,11 @@ template <>
 Styles::StyleManager& OvxUtils::Singleton<Styles::StyleManager>::GetInstance()
 {
     return TinyHost::Lasting<Styles::TinyStyleManager>();
+}
+
+void TinyHost::RegisterCategory(const Styles::PropertyKey& category, const OvxStringT& textKey)
+{
+    Lasting<Styles::TinyStyleManager>().Add(category, textKey);
 }
 
 void TinyHost::RegisterProperties(const Styles::PropertyKey& category,

@@ -86,7 +86,7 @@ IPanelHost* Application::GetPanelHost()
 
 IDataContext* Application::GetObjectPropertiesContext()
 {
-    return &context;
+    return shownContext;
 }
 
 } // namespace TinyHost

@@ -41,8 +41,12 @@ public:
     /// Makes a document the one that panels work on; borrowed until the next call, null for none.
     void SetActiveDocument(Document* document) noexcept;
 
-    /// The context in which panels edit objects.
+    /// The context that comes with the application: the one in which panels edit objects at first.
     [[nodiscard]] Context& GetContext() noexcept { return context; }
+
+    /// Makes another context the one in which panels edit objects; borrowed until the next call, null for
+    /// none.
+    void SetObjectPropertiesContext(IDataContext* newContext) noexcept { shownContext = newContext; }
 
     [[nodiscard]] Presets& GetPresets() noexcept { return presets; }
 
@@ -66,6 +70,7 @@ private:
     Presets presets;
     Document* activeDocument = nullptr; ///< Null while none is open.
     Context context;
+    IDataContext* shownContext = &context; ///< May be null.
     Confirmation confirmation;
 };
 

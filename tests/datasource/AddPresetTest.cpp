@@ -2,6 +2,7 @@
 
 #include "host/style_model/CategoryNames.h"
 #include "tests/datasource/support/PresetsTest.h"
+#include "tests/datasource/support/ShownTexts.h"
 
 namespace
 {
@@ -12,7 +13,11 @@ using testing::IsEmpty;
 
 constexpr const char* kShown = "dialogs.ShowDialog(0f6cfc84-8a1f-9182-4a02-21556f4ad8f8, context)";
 constexpr const char* kClosed = "dialogs.CloseDialog(0f6cfc84-8a1f-9182-4a02-21556f4ad8f8, 2, 0)";
-constexpr const char* kAsked = "confirm(A preset of this name exists already. Replace it?, 36)";
+
+std::string Asked()
+{
+    return "confirm(" + Describe(ShownTexts::Of(ShownTexts::kReplacePreset)) + ", 36)";
+}
 
 class AddingAPreset : public PresetsTest
 {
@@ -55,13 +60,16 @@ TEST_F(AddingAPreset, IsNotEnabledOnANamedStyle)
 
 TEST_F(AddingAPreset, OpensTheDialogWithAnUnusedName)
 {
-    Keep(L"New Preset");
+    const OvxStringT proposed = ShownTexts::Of(ShownTexts::kNewPreset);
+    Keep(proposed.c_str());
     Target(panel, {&styles.WithFill("object")});
+    const OvxStringT unused = manager.GetUnusedPresetName(L"FillPresets", proposed);
     log.Clear();
 
     panel.OnAddPreset();
 
-    EXPECT_EQ(Dialog().Read<OvxStringT>(L"AddPresetName"), L"New Preset 2");
+    EXPECT_EQ(Dialog().Read<OvxStringT>(L"AddPresetName"), unused);
+    EXPECT_FALSE(unused == proposed);
     EXPECT_THAT(log.LinesOf({"dialogs", "notify"}), ElementsAre(kShown, "notify DeletePresetEnabled"));
 }
 
@@ -107,7 +115,7 @@ TEST_F(AddingAPreset, FillsTheDialogAlsoWhereItCannotBeShown)
 
     Open();
 
-    EXPECT_EQ(Dialog().Read<OvxStringT>(L"AddPresetName"), L"New Preset");
+    EXPECT_EQ(Dialog().Read<OvxStringT>(L"AddPresetName"), ShownTexts::Of(ShownTexts::kNewPreset));
 }
 
 TEST_F(AddingAPreset, IsAcceptedWithANameAlone)
@@ -162,7 +170,7 @@ TEST_F(AddingAPreset, AsksBeforeItReplacesAndKeepsTheListsLength)
 
     Add(L"a");
 
-    EXPECT_EQ(log.LinesOf({"confirm"}), std::vector<std::string>{kAsked});
+    EXPECT_EQ(log.LinesOf({"confirm"}), std::vector<std::string>{Asked()});
     EXPECT_THAT(ListedTexts(), ElementsAre(L"a", L"b"));
 }
 
@@ -211,7 +219,7 @@ TEST_F(AddingAPreset, AsksAlsoWithoutAStyleSource)
 
     Dialog().Invoke(L"OnAddPresetOk");
 
-    EXPECT_EQ(log.LinesOf({"confirm"}), std::vector<std::string>{kAsked});
+    EXPECT_EQ(log.LinesOf({"confirm"}), std::vector<std::string>{Asked()});
 }
 
 TEST_F(AddingAPreset, LeavesTheListAloneWhenItHoldsTooMany)

@@ -1,5 +1,6 @@
 // The texts of the menu entries of the style commands: each names what the first target inherits from.
 
+#include "tests/datasource/support/ShownTexts.h"
 #include "tests/datasource/support/WritingTest.h"
 
 namespace
@@ -65,7 +66,7 @@ TEST_F(CommandMenu, SpeaksOfTheParentStyleWhereItHasNoName)
 {
     sheet.entries.clear();
 
-    EXPECT_EQ(Revert(), L"Revert to Parent Style");
+    EXPECT_EQ(Revert(), L"Revert to " + ShownTexts::Of(ShownTexts::kUnnamedParent));
     EXPECT_THAT(log.LinesOf({"stylesApp"}), IsEmpty());
 }
 
@@ -73,21 +74,21 @@ TEST_F(CommandMenu, SpeaksOfTheParentStyleWithoutTargets)
 {
     Target(panel, {});
 
-    EXPECT_EQ(Revert(), L"Revert to Parent Style");
+    EXPECT_EQ(Revert(), L"Revert to " + ShownTexts::Of(ShownTexts::kUnnamedParent));
 }
 
 TEST_F(CommandMenu, SpeaksOfTheParentStyleWithoutASheet)
 {
     source.sheet = nullptr;
 
-    EXPECT_EQ(Revert(), L"Revert to Parent Style");
+    EXPECT_EQ(Revert(), L"Revert to " + ShownTexts::Of(ShownTexts::kUnnamedParent));
 }
 
 TEST_F(CommandMenu, SpeaksOfTheParentStyleWithoutASource)
 {
     app.source = nullptr;
 
-    EXPECT_EQ(Revert(), L"Revert to Parent Style");
+    EXPECT_EQ(Revert(), L"Revert to " + ShownTexts::Of(ShownTexts::kUnnamedParent));
     EXPECT_THAT(log.LinesOf({"panel.GetTargetStyle"}), IsEmpty()) << "nothing is asked for a name";
 }
 

@@ -1,6 +1,7 @@
 // Which document object owns a target, and what new objects do to the chosen preset.
 
 #include "tests/datasource/support/HostedTest.h"
+#include "tests/datasource/support/ShownTexts.h"
 
 #include <algorithm>
 
@@ -144,7 +145,7 @@ TEST_F(ObjectStyles, LeaveTheNoPresetTextInAPanelWithPresets)
 {
     panel.SetObjectStyles({{low, 1}});
 
-    EXPECT_EQ(panel.GetCurrentPreset().GetText(), L"No Preset");
+    EXPECT_EQ(panel.GetCurrentPreset().GetText(), ShownTexts::Of(ShownTexts::kNoPreset));
     EXPECT_EQ(panel.GetCurrentPreset().GetIndex(), -1);
 }
 
@@ -162,7 +163,7 @@ TEST_F(ObjectStyles, LeaveThePresetToBeDeselectedByAnyone)
 {
     panel.SelectNoPreset();
 
-    EXPECT_EQ(panel.GetCurrentPreset().GetText(), L"No Preset");
+    EXPECT_EQ(panel.GetCurrentPreset().GetText(), ShownTexts::Of(ShownTexts::kNoPreset));
     EXPECT_EQ(panel.GetCurrentPreset().GetIndex(), -1);
 }
 

@@ -1,6 +1,7 @@
 // The presets that a panel lists, which of them is selected, and deleting it.
 
 #include "tests/datasource/support/PresetsTest.h"
+#include "tests/datasource/support/ShownTexts.h"
 
 namespace
 {
@@ -106,7 +107,7 @@ TEST_F(CurrentPreset, IsNoneWhenItIsFirstAskedFor)
 {
     const auto item = panel.Read<WCmnUI_ListItem>(L"CurrentPreset");
 
-    EXPECT_EQ(item.GetText(), L"No Preset");
+    EXPECT_EQ(item.GetText(), ShownTexts::Of(ShownTexts::kNoPreset));
     EXPECT_EQ(item.GetIndex(), -1);
 }
 

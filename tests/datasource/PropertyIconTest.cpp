@@ -3,6 +3,7 @@
 
 #include "host/data_binding/ID_CString.h"
 #include "tests/datasource/support/HostedTest.h"
+#include "tests/datasource/support/ShownTexts.h"
 
 #include <typeinfo>
 
@@ -31,7 +32,7 @@ struct PresentationRow
     const char* name;
     State state;
     const wchar_t* image;
-    const wchar_t* tooltip;
+    const wchar_t* tooltipKey; ///< Null where the answer is left alone.
 };
 
 class StatePresentation : public HostedTest, public testing::WithParamInterface<PresentationRow>
@@ -55,22 +56,20 @@ TEST_P(StatePresentation, GivesTheTooltip)
 
     panel.SetPropertyTooltip(question);
 
-    EXPECT_EQ(AnswerIn(question), GetParam().tooltip);
+    const wchar_t* const key = GetParam().tooltipKey;
+    EXPECT_EQ(AnswerIn(question), key == nullptr ? L"untouched" : ShownTexts::Of(key));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, StatePresentation,
     testing::Values(
-        PresentationRow{"None", State::None, L"NoneImage", L"There is no parent style to inherit from"},
-        PresentationRow{"Overridden", State::Overridden, L"OverriddenImage",
-                        L"Set here, overriding the parent style"},
-        PresentationRow{"Inherited", State::Inherited, L"InheritedImage", L"Inherited from the parent style"},
-        PresentationRow{"Ambiguous", State::Ambiguous, L"AmbiguousImage",
-                        L"Differs among the selected objects"},
-        PresentationRow{"AmbiguousParent", State::AmbiguousParent, L"AmbiguousImage",
-                        L"Differs among the selected objects"},
-        PresentationRow{"BelowTheFirstState", static_cast<State>(-1), L"untouched", L"untouched"},
-        PresentationRow{"BeyondTheLastState", static_cast<State>(5), L"untouched", L"untouched"}),
+        PresentationRow{"None", State::None, L"NoneImage", ShownTexts::kNothingToInheritFrom},
+        PresentationRow{"Overridden", State::Overridden, L"OverriddenImage", ShownTexts::kOverridden},
+        PresentationRow{"Inherited", State::Inherited, L"InheritedImage", ShownTexts::kInherited},
+        PresentationRow{"Ambiguous", State::Ambiguous, L"AmbiguousImage", ShownTexts::kAmbiguous},
+        PresentationRow{"AmbiguousParent", State::AmbiguousParent, L"AmbiguousImage", ShownTexts::kAmbiguous},
+        PresentationRow{"BelowTheFirstState", static_cast<State>(-1), L"untouched", nullptr},
+        PresentationRow{"BeyondTheLastState", static_cast<State>(5), L"untouched", nullptr}),
     [](const auto& row) { return row.param.name; });
 
 TEST(ActivePropertyStates, AreNumberedInTheirOrder)
@@ -93,7 +92,7 @@ protected:
     /// What a question for an inherited row is answered with.
     OvxStringT Expected() const
     {
-        return Name() == L"PropertyIcon" ? L"InheritedImage" : L"Inherited from the parent style";
+        return Name() == L"PropertyIcon" ? L"InheritedImage" : ShownTexts::Of(ShownTexts::kInherited);
     }
 };
 

@@ -1,6 +1,7 @@
 // The drop-down of styles: what it offers, in which form, and what picking an entry does.
 
 #include "host/resources/Resources.h"
+#include "tests/datasource/support/ShownTexts.h"
 #include "tests/datasource/support/StyleListTest.h"
 #include "tests/host_pieces/HostPieces.h"
 
@@ -36,10 +37,11 @@ TEST_F(StyleResourceList, BeginsWithTheEntryForNoStyle)
 {
     Target(panel, {&ObjectWithFill()});
 
-    EXPECT_EQ(ToText(panel.GetStyleResourceList()),
-              "<placeholderData>"
-              "<itemData type='statusText' styleName='' text='No Style' check='true' enable='true' guid='' "
-              "placeholderCommandID='0'>");
+    EXPECT_EQ(ToText(panel.GetStyleResourceList()), "<placeholderData>"
+                                                    "<itemData type='statusText' styleName='' text='" +
+                                                        Describe(ShownTexts::Of(ShownTexts::kNoStyle)) +
+                                                        "' check='true' enable='true' guid='' "
+                                                        "placeholderCommandID='0'>");
 }
 
 TEST_F(StyleResourceList, OffersANamedStyleToHaveNoParent)
@@ -48,7 +50,7 @@ TEST_F(StyleResourceList, OffersANamedStyleToHaveNoParent)
     NameInSheet(L"Named", named);
     Target(panel, {&named});
 
-    EXPECT_EQ(AttributeOf(panel.GetStyleResourceList(), 0, L"@text"), L"No Parent Style");
+    EXPECT_EQ(AttributeOf(panel.GetStyleResourceList(), 0, L"@text"), ShownTexts::Of(ShownTexts::kNoParent));
 }
 
 TEST_F(StyleResourceList, WritesTheTextOfAStyleBeforeItsName)
@@ -127,13 +129,15 @@ TEST_F(StyleResourceList, ShowsNineOfNineteenAndTheEntryForMore)
     NameFills(19);
     Target(panel, {&ObjectWithFill()});
 
+    const OvxStringT more = ShownTexts::Of(ShownTexts::kMoreStyles);
+
     const WXmlNode list = panel.GetStyleResourceList();
 
-    EXPECT_THAT(Column(list, L"@styleName"), ElementsAre(L"", L"S1", L"S2", L"S3", L"S4", L"S5", L"S6", L"S7",
-                                                         L"S8", L"S9", L"More Styles..."));
-    EXPECT_EQ(ToText(list.GetChildren().back()),
-              "<itemData type='statusText' text='More Styles...' styleName='More Styles...' "
-              "placeholderCommandID='10'>");
+    EXPECT_THAT(Column(list, L"@styleName"),
+                ElementsAre(L"", L"S1", L"S2", L"S3", L"S4", L"S5", L"S6", L"S7", L"S8", L"S9", more));
+    EXPECT_EQ(ToText(list.GetChildren().back()), "<itemData type='statusText' text='" + Describe(more) +
+                                                     "' styleName='" + Describe(more) +
+                                                     "' placeholderCommandID='10'>");
 }
 
 TEST_F(StyleResourceList, ShowsTheCurrentStyleFromBeyondTheLimit)
