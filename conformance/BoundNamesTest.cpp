@@ -152,6 +152,13 @@ TEST_F(BoundName, OfACommandRunsIt)
     EXPECT_TRUE(panel.HasProperty(L"IsStyle"));
 }
 
+TEST_F(BoundName, OfAPropertyRunsNothing)
+{
+    EXPECT_THROW(panel.Invoke(L"IsStyle"), std::out_of_range);
+    EXPECT_THROW(panel.Invoke(L"get_IsStyle"), std::out_of_range);
+    EXPECT_THROW(static_cast<void>(panel.ReadAny(L"OnRevert")), std::out_of_range);
+}
+
 TEST_F(BoundName, ThatIsUnknownIsRefused)
 {
     EXPECT_FALSE(panel.HasProperty(L"Unknown"));

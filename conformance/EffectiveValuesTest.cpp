@@ -110,6 +110,17 @@ TEST_F(EffectiveValue, AtAPathIsLookedForWhereTheStyleInherits)
     EXPECT_EQ(withoutSubstyles.GetPathProperty(Path({L"fill", L"color"})), Number(3));
 }
 
+TEST_F(EffectiveValue, AtAPathFollowsTheParentsOfEachSubstyleOnTheWay)
+{
+    Style& fillOnly = *host->AddNamedStyle(FillStyleCategoryName, L"Fill only");
+    fillOnly.SetPathProperty(Path({L"shade", L"depth"}), Number(6));
+
+    fill.SetParent(&fillOnly);
+
+    EXPECT_EQ(object.GetPathProperty(Path({L"fill", L"shade", L"depth"})), Number(6));
+    EXPECT_EQ(fill.GetPathProperty(Path({L"shade", L"depth"})), Number(6));
+}
+
 TEST_F(EffectiveValue, AtAPathIsThatOfTheSubstyle)
 {
     SetInFill(object, L"color", 1);

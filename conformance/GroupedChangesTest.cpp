@@ -4,6 +4,7 @@
 
 #include "host/style_model/CategoryNames.h"
 #include "host/style_model/IMultipleStyleModifier.h"
+#include "host/style_model/StyleSheet.h"
 
 #include <gtest/gtest.h>
 
@@ -77,11 +78,27 @@ TEST_F(Group, ThatIsNotCommittedTakesBackWhatWasWritten)
 
 TEST_F(Group, ThatIsNotCommittedTakesBackParentsToo)
 {
+    Style& base = *host->AddNamedStyle(StyleCategoryName, L"Base");
+    Style& another = *host->AddObject().style;
+    object.SetParent(&base);
+
     GetSource().BeginGroup();
     GetSource().SetParent(&object, &named, true);
+    GetSource().SetParent(&another, &named, true);
     GetSource().EndGroup(false);
 
-    EXPECT_EQ(object.GetParent(), nullptr);
+    EXPECT_EQ(object.GetParent(), &base);
+    EXPECT_EQ(another.GetParent(), nullptr);
+}
+
+TEST_F(Group, ThatIsNotCommittedTakesBackNamedStylesToo)
+{
+    GetSource().BeginGroup();
+    GetSource().CreateStyle(FillStyleCategoryName, L"Made in a group");
+    ASSERT_NE(GetSource().GetStyleSheet()->GetStyle(L"Made in a group"), nullptr);
+    GetSource().EndGroup(false);
+
+    EXPECT_EQ(GetSource().GetStyleSheet()->GetStyle(L"Made in a group"), nullptr);
 }
 
 // A drag over default styles is written at its end, past the modifier.

@@ -67,6 +67,7 @@ TEST_F(Listener, HearsNamesJoinedByCommasOneByOne)
     Add(L"DeletePresetEnabled", L"enable");
     Add(L"CurrentPreset", L"preset");
     Add(L"Current", L"beginning");
+    Add(L"CurrentPresets", L"longer");
 
     broadcaster->UpdateListeners(L"CurrentPreset,DeletePresetEnabled");
 

@@ -120,6 +120,16 @@ TEST_F(StyleAssignment, TakesOverValuesCategoryAndParent)
     EXPECT_EQ(other.GetParent(), &parent);
 }
 
+TEST_F(StyleAssignment, TakesOverAnotherCategoryToo)
+{
+    Style assigned(nullptr, StyleCategoryName);
+
+    assigned = Part(style, FillStyleCategoryName);
+
+    EXPECT_EQ(assigned.GetCategoryName(), FillStyleCategoryName);
+    EXPECT_EQ(OwnValue(assigned, Path({L"color"})), Number(1));
+}
+
 TEST_F(StyleAssignment, ForgetsWhatWasSetBefore)
 {
     other.SetPathProperty(Path({L"outline", L"width"}), Number(4));

@@ -172,12 +172,15 @@ TEST_F(StyleSource, MakesANamedStyleOfOneCategoryFromThatPartOfTheSelection)
 TEST_F(StyleSource, LeavesTheLookOfTheSelectionAsItIsWhenAStyleIsMadeFromIt)
 {
     Part(base, FillStyleCategoryName).SetProperty(Key(L"type"), Number(3));
+    fillOnly.SetProperty(Key(L"width"), Number(4));
+    fill.SetParent(&fillOnly);
     fill.SetProperty(Key(L"color"), Number(1));
     host->Select({object});
 
     GetSource().CreateStyle(FillStyleCategoryName, L"From selection");
 
     EXPECT_EQ(ShownColor(), Number(1));
+    EXPECT_EQ(fill.GetProperty(Key(L"width")), Number(4));
     EXPECT_EQ(fill.GetProperty(Key(L"type")), Number(3));
 }
 

@@ -163,10 +163,13 @@ TEST_F(XmlNode, ReadsTruthAndNumbersBack)
 
 TEST_F(XmlNode, GivesTheFallbackForWhatIsAbsentOrReadsAsSomethingElse)
 {
+    first.Attribute(L"@size").SetString(L"12 mm");
+
     EXPECT_EQ(first.Attribute(L"@absent").GetString(L"fallback"), L"fallback");
     EXPECT_EQ(first.Attribute(L"@absent").GetInt(5), 5);
     EXPECT_TRUE(first.Attribute(L"@absent").GetBool(true));
     EXPECT_EQ(first.Attribute(L"@text").GetInt(5), 5);
+    EXPECT_EQ(first.Attribute(L"@size").GetInt(5), 5);
     EXPECT_TRUE(first.Attribute(L"@text").GetBool(true));
 }
 
