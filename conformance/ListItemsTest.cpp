@@ -64,6 +64,19 @@ TEST(UiListItem, EqualsAnotherOfTheSameTextAndPlace)
     EXPECT_FALSE(Item(L"a") == moved);
 }
 
+TEST(UiListItem, KeepsItsPictureAndEqualsAnotherWhateverItIs)
+{
+    WCmnUI_List list;
+    list.AddItem()->SetPicture(OvxUtils::Any(OvxStringT(L"picture")));
+    const WCmnUI_List copy = list;
+
+    WCmnUI_ListItem plain;
+    plain.SetIndex(0);
+
+    EXPECT_EQ(copy.GetItem(0)->GetPicture(), OvxUtils::Any(OvxStringT(L"picture")));
+    EXPECT_EQ(*copy.GetItem(0), plain);
+}
+
 TEST(UiGuid, EqualsAnotherOfTheSameText)
 {
     EXPECT_EQ(WCmnUI_Guid(L"State.ObjectStyles"), WCmnUI_Guid(L"State.ObjectStyles"));
