@@ -36,8 +36,7 @@ std::unique_ptr<Styles::Style> PresetManager::LoadPreset(const OvxStringT& categ
     return folder ? folder->Load(name) : nullptr;
 }
 
-std::map<OvxStringT, std::unique_ptr<Styles::Style>>
-PresetManager::LoadPresets(const OvxStringT& category)
+std::map<OvxStringT, std::unique_ptr<Styles::Style>> PresetManager::LoadPresets(const OvxStringT& category)
 {
     const auto folder = FolderAt(GetCustomConfigurationDirectory(), GetPresetFolder(kLocation, category));
     return folder ? folder->LoadAll() : std::map<OvxStringT, std::unique_ptr<Styles::Style>>();
