@@ -66,6 +66,16 @@ bool NamedStyleSheet::Rename(const OvxStringT& name, const OvxStringT& newName)
     return true;
 }
 
+void NamedStyleSheet::Reserve(const OvxStringT& name)
+{
+    reserved.insert(name);
+}
+
+bool NamedStyleSheet::MayOffer(const OvxStringT& name) const
+{
+    return !byName.contains(name) && !reserved.contains(name);
+}
+
 std::size_t NamedStyleSheet::GetPlace(const OvxStringT& name) const
 {
     const auto found = byName.find(name);
@@ -106,14 +116,14 @@ std::vector<OvxStringT> NamedStyleSheet::GetStyleNames(const Styles::PropertyKey
 
 OvxStringT NamedStyleSheet::GetUnusedStyleName(const OvxStringT& base) const
 {
-    if (!byName.contains(base))
+    if (MayOffer(base))
         return base;
 
     std::size_t& taken = takenNumbers.try_emplace(base, 1).first->second;
     for (;;)
     {
         OvxStringT name = base + L" " + OvxStringT(std::to_wstring(taken + 1));
-        if (!byName.contains(name))
+        if (MayOffer(name))
             return name;
         ++taken;
     }

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace ReferenceHost
@@ -44,6 +45,9 @@ public:
     /// @returns whether it did: not when `name` is unknown, or `newName` is empty or taken.
     bool Rename(const OvxStringT& name, const OvxStringT& newName);
 
+    /// Keeps GetUnusedStyleName from offering a name; nothing else heeds it.
+    void Reserve(const OvxStringT& name);
+
     /// The place of a name in the order of the sheet; the number of styles for an unknown one.
     [[nodiscard]] std::size_t GetPlace(const OvxStringT& name) const;
 
@@ -54,10 +58,13 @@ public:
     [[nodiscard]] OvxStringT GetStyleName(const Styles::Style* style) const override;
     [[nodiscard]] std::vector<OvxStringT> GetStyleNames(const Styles::PropertyKey& category) const override;
 
-    /// `base` itself when it is free; else "BASE 2", "BASE 3" and so on, the first that is free.
+    /// `base` itself when it is free and not reserved; else "BASE 2", "BASE 3" and so on, the first of that
+    /// kind.
     [[nodiscard]] OvxStringT GetUnusedStyleName(const OvxStringT& base) const override;
 
 private:
+    [[nodiscard]] bool MayOffer(const OvxStringT& name) const;
+
     /// Enters the styles from `first` on under their places.
     void Number(std::size_t first);
 
@@ -65,6 +72,8 @@ private:
     std::vector<std::unique_ptr<Styles::Style>> styles; ///< None null.
     std::unordered_map<OvxStringT, std::size_t> byName;
     std::unordered_map<const Styles::Style*, std::size_t> byStyle;
+
+    std::unordered_set<OvxStringT> reserved;
 
     /// For a base, the number up to which all its numbered names are taken, so that many styles from one base
     /// cost no search through all the earlier ones. Forgotten when a name becomes free.

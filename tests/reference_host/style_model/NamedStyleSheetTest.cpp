@@ -109,6 +109,16 @@ TEST(NamedStyleSheet, SkipsNumbersThatAreTaken)
     EXPECT_EQ(sheet.GetUnusedStyleName(L"Accent"), L"Accent 4");
 }
 
+TEST(NamedStyleSheet, OffersNoNameThatIsReserved)
+{
+    NamedStyleSheet sheet;
+    sheet.Reserve(L"Accent");
+    sheet.Reserve(L"Accent 2");
+
+    EXPECT_EQ(sheet.GetUnusedStyleName(L"Accent"), L"Accent 3");
+    EXPECT_NE(sheet.Add(L"Accent", MakeWhole()), nullptr);
+}
+
 TEST(NamedStyleSheet, NamesTenThousandStylesFromOneBase)
 {
     NamedStyleSheet sheet;
