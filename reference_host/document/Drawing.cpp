@@ -57,6 +57,7 @@ void StartHistory(DrawingData& data)
     for (const OvxStringT& name : data.sheet.GetNames())
         SetJournal(*data.sheet.GetStyle(name), &data.history);
     data.cascades.SetJournal(&data.history);
+    data.sheets.StartHistory(data.history);
 }
 
 std::unique_ptr<Drawing> Finish(std::unique_ptr<DrawingData> data)
@@ -72,7 +73,7 @@ std::unique_ptr<Drawing> Drawing::Open(const std::filesystem::path& file, std::v
                                        const std::vector<PropertyMapping>& extensions)
 {
     auto data = std::make_unique<DrawingData>(file, extensions);
-    DrawingReader(*data, warnings).Read();
+    DrawingReader(*data, warnings).Read(DrawingReader::SheetLinks::Follow);
     return Finish(std::move(data));
 }
 
@@ -82,7 +83,7 @@ std::unique_ptr<Drawing> Drawing::CreateBlank(const std::vector<PropertyMapping>
     data->file.label = "blank drawing";
     data->file.bytes = kBlankDrawing;
     std::vector<std::string> warnings;
-    DrawingReader(*data, warnings).ReadContents();
+    DrawingReader(*data, warnings).ReadContents(DrawingReader::SheetLinks::PassOver);
     return Finish(std::move(data));
 }
 
@@ -120,19 +121,6 @@ std::deque<DrawingObject>& Drawing::GetObjects() noexcept
 NamedStyleSheet& Drawing::GetStyleSheet() noexcept
 {
     return data->sheet;
-}
-
-OvxStringT Drawing::GetDisplayName(const OvxStringT& styleName) const
-{
-    const auto found = data->appearances.find(styleName);
-    const bool hasOwn = found != data->appearances.end() && !found->second.displayName.empty();
-    return hasOwn ? found->second.displayName : styleName;
-}
-
-bool Drawing::IsHidden(const OvxStringT& styleName) const
-{
-    const auto found = data->appearances.find(styleName);
-    return found != data->appearances.end() && found->second.isHidden;
 }
 
 Styles::Style& Drawing::GetDefaultStyle() noexcept

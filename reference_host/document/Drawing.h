@@ -93,11 +93,27 @@ public:
     /// of the file.
     [[nodiscard]] NamedStyleSheet& GetStyleSheet() noexcept;
 
-    /// What people see for a named style: the display name that the file gives, else the name itself. A name
-    /// that is not in the sheet comes back as it is.
+    /// The names of the style sheets outside the drawing that it links to and that could be read, in the
+    /// order of the file.
+    [[nodiscard]] std::vector<OvxStringT> GetExternalSheetNames() const;
+
+    /// The style sheet of that name outside the drawing; null without one. Its styles are external, and
+    /// changes to them belong to the drawing's history; adding and renaming are for none of them.
+    [[nodiscard]] NamedStyleSheet* FindExternalSheet(const OvxStringT& sheetName) const;
+
+    /// The named style that a name means: the drawing's own, else that of the first sheet outside it which
+    /// has one; null without any.
+    [[nodiscard]] Styles::Style* FindStyle(const OvxStringT& styleName) const;
+
+    /// The name of a named style in its sheet, the drawing's own or one outside it; empty for any other, and
+    /// for null.
+    [[nodiscard]] OvxStringT FindStyleName(const Styles::Style* style) const;
+
+    /// What people see for the named style that a name means: the display name that the file gives, else the
+    /// name itself. A name that means no style comes back as it is.
     [[nodiscard]] OvxStringT GetDisplayName(const OvxStringT& styleName) const;
 
-    /// Tells whether the drawing hides a named style from people.
+    /// Tells whether the named style that a name means is hidden from people.
     [[nodiscard]] bool IsHidden(const OvxStringT& styleName) const;
 
     /// The default style: what every effective value falls back to after the parents. It is nobody's parent
@@ -127,13 +143,14 @@ public:
 
     /// Adds a named style without values, behind all others; a whole style has all its substyles.
     ///
-    /// @returns the style; null, and nothing happens, when `name` is empty or taken, or the category is not
-    ///          one of this drawing's.
+    /// @returns the style; null, and nothing happens, when `name` is empty or taken, also by a style of a
+    /// sheet
+    ///          outside the drawing, which it would hide, or the category is not one of this drawing's.
     Styles::Style* AddStyle(const Styles::PropertyKey& category, const OvxStringT& name);
 
     /// Gives a named style another name, which is also what people see of it from then on.
     ///
-    /// @returns whether it did: not when `name` is unknown, or `newName` is empty or taken.
+    /// @returns whether it did: not when `name` is unknown, or `newName` is empty or taken as for AddStyle().
     bool RenameStyle(const OvxStringT& name, const OvxStringT& newName);
 
     /// Adds an entry to the palette, or changes its look; every colour in the drawing that refers to it gets
@@ -153,10 +170,18 @@ public:
 
     /// Writes what Serialise() gives to a file, at once or not at all: a failure leaves a file that was there
     /// as it was, and nothing else behind. Permissions of such a file are kept, a symbolic link is followed.
+    /// In another folder, links to style sheets are changed to lead where they have led.
     ///
-    /// @throws DocumentError
-    void Save(const std::filesystem::path& target, const SaveOptions& options,
-              std::vector<std::string>& warnings) const;
+    /// Style sheets outside the drawing whose styles were changed are written before it, each in the same way
+    /// to its own file.
+    ///
+    /// @returns the files of style sheets that were written.
+    /// @throws DocumentError also when `target` is a style sheet of the drawing, or a changed one is no
+    /// longer
+    ///         the file that was read; nothing is written then. A sheet that was written before another file
+    ///         fails stays written.
+    std::vector<std::filesystem::path> Save(const std::filesystem::path& target, const SaveOptions& options,
+                                            std::vector<std::string>& warnings) const;
 
 private:
     std::unique_ptr<DrawingData> data;

@@ -4,10 +4,12 @@
 #include "reference_host/document/Drawing.h"
 #include "reference_host/document/DrawingFile.h"
 #include "reference_host/document/DrawingSettling.h"
+#include "reference_host/document/ExternalSheets.h"
 #include "reference_host/document/NamedStyles.h"
 #include "reference_host/document/PropertyCodecs.h"
 #include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
+#include "reference_host/document/StyleSheetLink.h"
 #include "reference_host/history/History.h"
 #include "reference_host/style_model/NamedStyleSheet.h"
 
@@ -24,8 +26,9 @@ namespace ReferenceHost
 /// The insides of a drawing. Later fields use earlier ones and go before them.
 struct DrawingData
 {
-    DrawingData(std::filesystem::path drawing, const std::vector<PropertyMapping>& extensions)
+    DrawingData(std::filesystem::path drawing, const std::vector<PropertyMapping>& furtherProperties)
         : path(std::move(drawing)),
+          extensions(furtherProperties),
           table(extensions),
           defaultStyle(MakeWholeStyle(nullptr, table)),
           cascades(table, *defaultStyle),
@@ -35,9 +38,12 @@ struct DrawingData
     }
 
     std::filesystem::path path;
-    DrawingFile file; ///< The bytes as they were read: edits are spliced into them.
+    DrawingFile file;                        ///< The bytes as they were read: edits are spliced into them.
+    std::vector<PropertyMapping> extensions; ///< Properties beyond the built-in ones.
     PropertyMappings table;
     std::vector<PaletteEntry> palette;
+    std::vector<StyleSheetLink> sheetLinks; ///< All that stand in the file, in its order.
+    ExternalSheets sheets;                  ///< Those of the links that can be used.
     StyleCatalogue catalogue;
     DeclaredNames namedDeclared;                 ///< What the named styles refer to.
     DeclaredNames declared;                      ///< What the automatic styles refer to.

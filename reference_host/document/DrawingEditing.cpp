@@ -68,7 +68,7 @@ Styles::Style* Drawing::AddStyle(const Styles::PropertyKey& category, const OvxS
     const auto& known = data->table.GetCategories();
     const bool isKnown =
         category == Styles::StyleCategoryName || std::ranges::find(known, category) != known.end();
-    if (!isKnown || name.empty() || data->sheet.GetStyle(name) != nullptr)
+    if (!isKnown || name.empty() || FindStyle(name) != nullptr)
         return nullptr;
 
     const History::Step step(data->history, StepName(L"history.create-style"));
@@ -79,7 +79,7 @@ Styles::Style* Drawing::AddStyle(const Styles::PropertyKey& category, const OvxS
 
 bool Drawing::RenameStyle(const OvxStringT& name, const OvxStringT& newName)
 {
-    if (data->sheet.GetStyle(name) == nullptr || newName.empty() || data->sheet.GetStyle(newName) != nullptr)
+    if (data->sheet.GetStyle(name) == nullptr || newName.empty() || FindStyle(newName) != nullptr)
         return false;
 
     const History::Step step(data->history, StepName(L"history.rename-style"));

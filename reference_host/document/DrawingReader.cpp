@@ -3,10 +3,13 @@
 #include "reference_host/document/DocumentKind.h"
 #include "reference_host/document/OdfNamespaces.h"
 #include "reference_host/document/ShapeReader.h"
+#include "reference_host/document/XmlSource.h"
 #include "reference_host/document/XmlText.h"
 #include "reference_host/document/XmlTree.h"
 
 #include "host/utils/Utf8.h"
+
+#include <utility>
 
 namespace ReferenceHost
 {
@@ -19,6 +22,7 @@ constexpr XmlName kDrawing{Odf::kOffice, "drawing"};
 constexpr XmlName kStyles{Odf::kOffice, "styles"};
 constexpr XmlName kAutomaticStyles{Odf::kOffice, "automatic-styles"};
 constexpr XmlName kMeta{Odf::kOffice, "meta"};
+constexpr XmlName kSheetLink{OwnMarkup::kNamespace, OwnMarkup::kSheetLink};
 
 /// Calls `visit` for each child element of `parent` that is called `name`, while its scope is in force.
 template <class Visitor>
@@ -39,13 +43,13 @@ DrawingReader::DrawingReader(DrawingData& target, std::vector<std::string>& warn
 {
 }
 
-void DrawingReader::Read()
+void DrawingReader::Read(SheetLinks links)
 {
     data.file = ReadDrawingFile(data.path);
-    ReadContents();
+    ReadContents(links);
 }
 
-void DrawingReader::ReadContents()
+void DrawingReader::ReadContents(SheetLinks links)
 {
     const bool isFlat = data.file.form == DrawingForm::Flat;
     const Part content = isFlat ? Parse(data.file.bytes, nullptr) : Parse(data.file.content, "content.xml");
@@ -59,6 +63,8 @@ void DrawingReader::ReadContents()
     if (reader.GetDefault() != nullptr)
         data.defaultRecord = *reader.GetDefault();
     FillDefaultStyle(*data.defaultStyle, reader.GetDefault(), data.table, warnings);
+    ReadSheetLinks(isFlat ? content : packageStyles);
+    OpenSheets(links);
     NamedStyleBuilder(data.table, *data.defaultStyle, data.sheet, data.appearances, warnings)
         .Build(data.catalogue);
     ReadShapes(content);
@@ -158,6 +164,38 @@ void DrawingReader::ReadStyles(StyleReader& reader, const Part& styles, const Pa
         readDeclarations(content);
     data.declared = reader.GetDeclared();
     readContainers(content, kAutomaticStyles, StyleOrigin::Automatic);
+}
+
+void DrawingReader::ReadSheetLinks(const Part& styles)
+{
+    const auto read = [&](pugi::xml_node element, XmlNames& names)
+    {
+        StyleSheetLink link;
+        link.reference = names.Attribute(element, {Odf::kXlink, "href"});
+        const std::string_view name =
+            names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kSheetName});
+        link.name = OvxUtils::FromUtf8(name.empty() ? std::string_view(link.reference) : name);
+        link.isEditable =
+            names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kSheetEditable}) == "true";
+        link.place = PlaceOfElement(element, styles.text);
+        data.sheetLinks.push_back(std::move(link));
+    };
+    XmlNames names;
+    const XmlNames::Scope scope(names, styles.GetRoot());
+    ForEachChild(styles.GetRoot(), names, kStyles,
+                 [&](pugi::xml_node container) {
+                     ForEachChild(container, names, kSheetLink,
+                                  [&](pugi::xml_node element) { read(element, names); });
+                 });
+}
+
+void DrawingReader::OpenSheets(SheetLinks links)
+{
+    if (links == SheetLinks::Follow)
+        return data.sheets.Open(data, warnings);
+    for (const StyleSheetLink& link : data.sheetLinks)
+        warnings.Add("style sheet \"" + OvxUtils::ToUtf8(link.name) +
+                     "\": links in style sheets are not followed; it was passed over");
 }
 
 void DrawingReader::ReadShapes(const Part& content)

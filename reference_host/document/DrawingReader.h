@@ -19,18 +19,25 @@ namespace ReferenceHost
 class DrawingReader
 {
 public:
+    /// What becomes of links to style sheets outside the drawing.
+    enum class SheetLinks
+    {
+        Follow,
+        PassOver ///< They are reported: the drawing is a sheet itself.
+    };
+
     /// Borrows both; `target` holds nothing of the file yet.
     DrawingReader(DrawingData& target, std::vector<std::string>& warningLines);
 
     /// Reads the file that the drawing's path names.
     ///
     /// @throws DocumentError
-    void Read();
+    void Read(SheetLinks links);
 
     /// Reads what `target` holds as the bytes of its file.
     ///
     /// @throws DocumentError
-    void ReadContents();
+    void ReadContents(SheetLinks links);
 
 private:
     /// One XML text of the drawing: a flat file has one, a package up to three. Without a text all is empty.
@@ -51,6 +58,8 @@ private:
     void ReadPalette(const Part& part);
     void ReadPaletteEntry(pugi::xml_node element, XmlNames& names);
     void ReadStyles(StyleReader& reader, const Part& styles, const Part& content);
+    void ReadSheetLinks(const Part& styles);
+    void OpenSheets(SheetLinks links);
     void ReadShapes(const Part& content);
 
     DrawingData& data;

@@ -1,6 +1,7 @@
 // How a drawing gets back to disk: the bytes come from the DrawingWriter, the file from the services.
 #include "reference_host/document/Drawing.h"
 #include "reference_host/document/DrawingWriter.h"
+#include "reference_host/document/ExternalSheetSaving.h"
 #include "reference_host/services/AtomicFile.h"
 
 namespace ReferenceHost
@@ -13,19 +14,25 @@ std::string Drawing::Serialise(std::vector<std::string>& warnings) const
     return DrawingWriter(*data, warnings).Write();
 }
 
-void Drawing::Save(const std::filesystem::path& target, const SaveOptions& options,
-                   std::vector<std::string>& warnings) const
+std::vector<std::filesystem::path> Drawing::Save(const std::filesystem::path& target,
+                                                 const SaveOptions& options,
+                                                 std::vector<std::string>& warnings) const
 {
-    const std::string bytes = Serialise(warnings);
+    data->history.EndLooseStep();
+    const std::string bytes = DrawingWriter(*data, warnings, target.parent_path()).Write();
+    ExternalSheetSaving sheets(data->sheets, target, warnings);
+    const Backup backup = options.keepBackup ? Backup::Keep : Backup::None;
+    std::vector<std::filesystem::path> written = sheets.Write(backup);
     try
     {
-        WriteFileAtomically(target, bytes, options.keepBackup ? Backup::Keep : Backup::None);
+        WriteFileAtomically(target, bytes, backup);
     }
     catch (const std::system_error& error)
     {
         throw DocumentError(std::string("the drawing cannot be saved (") + error.what() + ")",
                             target.string(), "a folder that can be written to, with enough room");
     }
+    return written;
 }
 
 } // namespace ReferenceHost

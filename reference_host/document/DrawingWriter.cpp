@@ -71,8 +71,14 @@ catch (const DocumentError& error)
 
 } // namespace
 
+DrawingWriter::DrawingWriter(DrawingData& drawing, std::vector<std::string>& warningLines,
+                             std::filesystem::path targetFolder)
+    : data(drawing), warnings(warningLines), context{data, warnings}, folder(std::move(targetFolder))
+{
+}
+
 DrawingWriter::DrawingWriter(DrawingData& drawing, std::vector<std::string>& warningLines)
-    : data(drawing), warnings(warningLines), context{data, warnings}
+    : DrawingWriter(drawing, warningLines, drawing.path.parent_path())
 {
 }
 
@@ -122,6 +128,7 @@ std::string DrawingWriter::WritePackage()
 void DrawingWriter::EditAll(SavedPart& styles, SavedPart& content, SavedPart& meta)
 {
     WritePalette(context, meta);
+    MoveSheetLinks(styles);
     NamedStyleEdits named(context, styles);
     named.Write();
     AutomaticStyleEdits automatic(context, content, styles, named.GetRenamed());
@@ -132,6 +139,17 @@ void DrawingWriter::EditAll(SavedPart& styles, SavedPart& content, SavedPart& me
     RenameStyleReferences(named.GetRenamed(), content);
     if (&styles != &content)
         RenameStyleReferences(named.GetRenamed(), styles);
+}
+
+void DrawingWriter::MoveSheetLinks(SavedPart& styles)
+{
+    for (const StyleSheetLink& link : data.sheetLinks)
+    {
+        std::string moved = MoveSheetReference(link.reference, data.path.parent_path(), folder);
+        if (moved != link.reference)
+            styles.GetEdits().SetAttribute(styles.FindElement(link.place),
+                                           {Odf::kXlink, "href", std::move(moved)});
+    }
 }
 
 } // namespace ReferenceHost

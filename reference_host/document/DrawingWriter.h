@@ -5,6 +5,7 @@
 #include "reference_host/document/SavingContext.h"
 #include "reference_host/document/Warnings.h"
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -17,7 +18,13 @@ namespace ReferenceHost
 class DrawingWriter
 {
 public:
-    /// Borrows both.
+    /// Borrows drawing and lines.
+    ///
+    /// @param targetFolder where the file goes: links to style sheets lead on from there.
+    DrawingWriter(DrawingData& drawing, std::vector<std::string>& warningLines,
+                  std::filesystem::path targetFolder);
+
+    /// The same for where the drawing comes from.
     DrawingWriter(DrawingData& drawing, std::vector<std::string>& warningLines);
 
     /// @returns the bytes of the whole file. Once only.
@@ -28,10 +35,12 @@ private:
     [[nodiscard]] std::string WriteFlat();
     [[nodiscard]] std::string WritePackage();
     void EditAll(SavedPart& styles, SavedPart& content, SavedPart& meta);
+    void MoveSheetLinks(SavedPart& styles);
 
     DrawingData& data;
     Warnings warnings;
     SavingContext context;
+    std::filesystem::path folder; ///< Where the file goes.
 };
 
 } // namespace ReferenceHost

@@ -61,6 +61,28 @@ void NamedStyleEdits::NameStyles()
     }
     for (const OvxStringT& name : sheet.GetNames())
         namesInFile.try_emplace(sheet.GetStyle(name), EncodeStyleName(name));
+    NameExternalStyles();
+}
+
+void NamedStyleEdits::NameExternalStyles()
+{
+    std::unordered_set<std::string> taken;
+    for (const auto& [style, name] : namesInFile)
+        taken.insert(name);
+    for (const StyleRecord& record : context.data.catalogue.GetRecords())
+    {
+        // What nobody here knows stays in the file as it is.
+        if (IsNamedGraphic(record) && record.style == nullptr)
+            taken.insert(record.name);
+    }
+    for (const std::unique_ptr<ExternalSheet>& outside : context.data.sheets.GetAll())
+    {
+        for (const StyleRecord& record : outside->data->catalogue.GetRecords())
+        {
+            if (IsNamedGraphic(record) && taken.insert(record.name).second && record.style != nullptr)
+                namesInFile.emplace(record.style, record.name);
+        }
+    }
 }
 
 std::string NamedStyleEdits::NameInFile(const Styles::Style* style) const
@@ -190,6 +212,10 @@ std::string NamedStyleEdits::DisplayNameOf(const OvxStringT& name) const
 void NamedStyleEdits::AddParent(const Styles::Style& style, std::vector<AttributeEdit>& attributes) const
 {
     const std::string parent = NameInFile(style.GetParent());
+    if (parent.empty() && style.GetParent() != nullptr)
+        context.warnings.Add(
+            Quoted(context.data.sheet.GetStyleName(&style)) +
+            ": its parent is no style that the drawing can name; it was saved without a parent");
     const std::optional<std::string> name = parent.empty() ? std::nullopt : std::optional(parent);
     attributes.push_back({Odf::kStyle, "parent-style-name", name});
     // A style of one category says its parent twice: other programs inherit by the first, and a whole style

@@ -22,8 +22,9 @@ public:
     /// Borrows everything.
     NamedStyleEdits(const SavingContext& savingContext, SavedPart& namedPart);
 
-    /// The encoded name that a named style will have in the file; empty for null and for a style that the
-    /// sheet does not hold.
+    /// The encoded name by which the file will mean a named style: one of the sheet, or of a sheet outside
+    /// the drawing unless another has the name as well and goes before it. Empty for null and for any other
+    /// style.
     [[nodiscard]] std::string NameInFile(const Styles::Style* style) const;
 
     /// The encoded names that styles had, with those that they get, where they differ.
@@ -37,6 +38,7 @@ public:
 
 private:
     void NameStyles();
+    void NameExternalStyles();
     void WriteDefault();
     void WriteKnown(const StyleRecord& record);
     void WriteNew(const OvxStringT& name, Styles::Style& style);

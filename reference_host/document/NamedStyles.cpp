@@ -48,8 +48,15 @@ std::unique_ptr<Styles::Style> MakeNamedStyle(const Styles::PropertyKey& categor
     const bool isWhole = category == Styles::StyleCategoryName;
     std::unique_ptr<Styles::Style> style =
         isWhole ? MakeWholeStyle(nullptr, table) : std::make_unique<Styles::Style>(nullptr, category);
-    SetDefaultStyle(*style, isWhole ? &defaults : defaults.GetSubstyle(category, false));
+    LetFallBack(*style, defaults);
     return style;
+}
+
+void LetFallBack(Styles::Style& style, Styles::Style& defaults)
+{
+    const Styles::PropertyKey category = style.GetCategoryName();
+    SetDefaultStyle(style, category == Styles::StyleCategoryName ? &defaults
+                                                                 : defaults.GetSubstyle(category, false));
 }
 
 NamedStyleBuilder::NamedStyleBuilder(const PropertyMappings& properties, Styles::Style& defaultStyle,

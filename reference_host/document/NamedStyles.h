@@ -33,6 +33,9 @@ void FillDefaultStyle(Styles::Style& defaults, const StyleRecord* record, const 
 [[nodiscard]] std::unique_ptr<Styles::Style>
 MakeNamedStyle(const Styles::PropertyKey& category, const PropertyMappings& table, Styles::Style& defaults);
 
+/// Makes a named style fall back to the default style of a drawing, or to the substyle of its category there.
+void LetFallBack(Styles::Style& style, Styles::Style& defaults);
+
 /// Turns the named graphic styles of the file into styles of a sheet.
 ///
 /// A style of a category that nobody here knows is left out and reported. Names are decoded; where two become

@@ -17,13 +17,14 @@ inline constexpr std::string_view kFo = "urn:oasis:names:tc:opendocument:xmlns:x
 inline constexpr std::string_view kSvg = "urn:oasis:names:tc:opendocument:xmlns:svg-compatible:1.0";
 inline constexpr std::string_view kMeta = "urn:oasis:names:tc:opendocument:xmlns:meta:1.0";
 inline constexpr std::string_view kManifest = "urn:oasis:names:tc:opendocument:xmlns:manifest:1.0";
+inline constexpr std::string_view kXlink = "http://www.w3.org/1999/xlink";
 } // namespace Odf
 
 /// What this host writes into drawings beyond OpenDocument. Other programs keep the palette, which stands in
 /// the user-defined metadata, and may drop the attributes: what they need is always written beside them.
 namespace OwnMarkup
 {
-/// The namespace of the own attributes.
+/// The namespace of the own elements and attributes.
 inline constexpr std::string_view kNamespace = "urn:styleproperties:1.0";
 
 /// On style:style: the category of a named style that is not a whole style ("fill").
@@ -45,6 +46,16 @@ inline constexpr std::string_view kInheritedValues = "inherited-values";
 /// Behind the local name of a colour attribute, the attribute that names the palette entry of the colour:
 /// "fill-color" and "fill-color-resource".
 inline constexpr std::string_view kResourceSuffix = "-resource";
+
+/// Below office:styles, an element that names a style sheet outside the drawing by xlink:href, with the two
+/// attributes behind it.
+inline constexpr std::string_view kSheetLink = "style-sheet";
+
+/// On kSheetLink: what the sheet is called; without it, it is called as its file is named.
+inline constexpr std::string_view kSheetName = "name";
+
+/// On kSheetLink: "true" when the styles of the sheet may be edited from the drawing.
+inline constexpr std::string_view kSheetEditable = "editable";
 
 /// In front of the name of a palette entry, the meta:name of the meta:user-defined that holds its "#rrggbb".
 inline constexpr std::string_view kPalettePrefix = "styleprops:palette:";

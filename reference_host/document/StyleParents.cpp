@@ -50,7 +50,8 @@ public:
     {
         std::vector<StyleRecord*> way;
         for (StyleRecord* record = &first;
-             record != nullptr && visits.try_emplace(record, Visit::Underway).second; record = record->parent)
+             record != nullptr && !record->isExternal && visits.try_emplace(record, Visit::Underway).second;
+             record = record->parent)
             way.push_back(record);
         if (!way.empty())
             Cut(*way.back());
@@ -160,21 +161,20 @@ void SetSubstyleParents(Styles::Style& style, const StyleRecord& record)
 
 ShapeParent FindShapeParent(StyleCatalogue& catalogue, const StyleRecord* record)
 {
-    const auto wholeStyle = [&](std::string_view name) -> Styles::Style*
-    {
-        const StyleRecord* const named = catalogue.FindNamed(StyleFamily::Graphic, name);
-        return named != nullptr && named->ownCategory.empty() ? named->style : nullptr;
-    };
+    const auto wholeStyle = [](const StyleRecord* named) -> Styles::Style*
+    { return named != nullptr && named->ownCategory.empty() ? named->style : nullptr; };
+    // Nobody has named it, so that no other drawing's can be meant.
+    Styles::Style* const standard = wholeStyle(catalogue.FindOwnNamed(StyleFamily::Graphic, "standard"));
     if (record != nullptr && record->origin == StyleOrigin::Named && record->ownCategory.empty())
         return {record->style, false};
     if (record == nullptr || record->origin == StyleOrigin::Named)
-        return {wholeStyle("standard"), false};
+        return {standard, false};
     if (record->hasNoParent)
         return {};
     if (record->parentName.empty())
-        return {wholeStyle("standard"), false};
-    Styles::Style* const parent = wholeStyle(record->parentName);
-    return parent != nullptr ? ShapeParent{parent, false} : ShapeParent{wholeStyle("standard"), true};
+        return {standard, false};
+    Styles::Style* const parent = wholeStyle(catalogue.FindNamed(StyleFamily::Graphic, record->parentName));
+    return parent != nullptr ? ShapeParent{parent, false} : ShapeParent{standard, true};
 }
 
 std::vector<StyleRecord*> LinkParents(StyleCatalogue& catalogue, Warnings& warnings)

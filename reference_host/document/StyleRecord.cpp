@@ -20,10 +20,18 @@ void StyleCatalogue::Add(StyleRecord record)
 const StyleRecord* StyleCatalogue::Find(StyleFamily family, std::string_view name) const
 {
     const StyleRecord* const automatic = Find(StyleOrigin::Automatic, family, name);
-    return automatic != nullptr ? automatic : Find(StyleOrigin::Named, family, name);
+    return automatic != nullptr ? automatic : FindNamed(family, name);
 }
 
-StyleRecord* StyleCatalogue::FindNamed(StyleFamily family, std::string_view name)
+StyleRecord* StyleCatalogue::FindNamed(StyleFamily family, std::string_view name) const
+{
+    StyleRecord* found = FindOwnNamed(family, name);
+    for (std::size_t next = 0; found == nullptr && next < fallbacks.size(); ++next)
+        found = fallbacks[next]->FindOwnNamed(family, name);
+    return found;
+}
+
+StyleRecord* StyleCatalogue::FindOwnNamed(StyleFamily family, std::string_view name) const
 {
     return Find(StyleOrigin::Named, family, name);
 }

@@ -62,6 +62,7 @@ struct StyleRecord
     std::string ownParentName;      ///< Its parent of the same category, as in the file; empty without one.
     bool isHidden = false;          ///< Hidden from people.
     bool hasNoParent = false;       ///< Says of itself that shapes with it have no parent at all.
+    bool isExternal = false;        ///< Stands in a style sheet outside the drawing, and is complete.
     std::size_t place = 0;          ///< Where its start tag stands in its XML text.
     std::vector<StyleValue> values; ///< In the order of the table, each property once.
     std::vector<SubstyleParent> substyleParents;
@@ -75,6 +76,8 @@ struct StyleRecord
 };
 
 /// All styles of a drawing as they stand in its file. Records keep their addresses.
+///
+/// Where it has no style of a name, the named ones of other catalogues answer.
 class StyleCatalogue
 {
 public:
@@ -84,11 +87,18 @@ public:
     /// Adds a style of which there is none the same.
     void Add(StyleRecord record);
 
+    /// Lets the named styles of a catalogue be found where neither this one nor those added before have one
+    /// of the name. Borrowed.
+    void AddFallback(StyleCatalogue& catalogue) { fallbacks.push_back(&catalogue); }
+
     /// A style of that name, automatic ones first; null when there is none.
     [[nodiscard]] const StyleRecord* Find(StyleFamily family, std::string_view name) const;
 
     /// A named style of that name; null when there is none.
-    [[nodiscard]] StyleRecord* FindNamed(StyleFamily family, std::string_view name);
+    [[nodiscard]] StyleRecord* FindNamed(StyleFamily family, std::string_view name) const;
+
+    /// The same without the other catalogues.
+    [[nodiscard]] StyleRecord* FindOwnNamed(StyleFamily family, std::string_view name) const;
 
     /// All styles in the order of the file.
     [[nodiscard]] std::deque<StyleRecord>& GetRecords() noexcept { return records; }
@@ -99,6 +109,7 @@ private:
     std::deque<StyleRecord> records;
     std::unordered_map<std::string_view, StyleRecord*>
         byName[2][3]; ///< By origin and family; keys lie in the records.
+    std::vector<StyleCatalogue*> fallbacks;
 };
 
 } // namespace ReferenceHost

@@ -3,6 +3,9 @@
 #include "host/utils/Utf8.h"
 #include "reference_host/document/StyleNames.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace ReferenceHost
 {
 
@@ -10,10 +13,13 @@ Warnings::Warnings(std::vector<std::string>& target) : lines(target)
 {
 }
 
-void Warnings::Add(const std::string& text)
+void Warnings::Add(std::string text)
 {
+    // Names that come out of files may hold line breaks.
+    std::ranges::replace_if(
+        text, [](char byte) { return byte == '\n' || byte == '\r'; }, ' ');
     if (seen.insert(text).second)
-        lines.push_back(text);
+        lines.push_back(std::move(text));
 }
 
 void Warnings::AddAbout(const StyleRecord& style, const std::string& text)

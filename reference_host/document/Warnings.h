@@ -17,7 +17,7 @@ public:
     /// The lines go to `target`, which is borrowed.
     explicit Warnings(std::vector<std::string>& target);
 
-    void Add(const std::string& text);
+    void Add(std::string text);
 
     /// About a style of the file: `style "Mid One": ...`, named as people know it.
     void AddAbout(const StyleRecord& style, const std::string& text);
