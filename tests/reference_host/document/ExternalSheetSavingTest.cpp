@@ -1,5 +1,6 @@
 // What becomes of style sheets outside a drawing when it is edited and saved.
 
+#include "tests/reference_host/document/DrawingPackage.h"
 #include "tests/reference_host/document/SavedDrawing.h"
 #include "tests/reference_host/document/SheetFolder.h"
 

@@ -1,5 +1,6 @@
 // What a drawing takes from style sheets outside it when it is opened.
 
+#include "tests/reference_host/document/DrawingPackage.h"
 #include "tests/reference_host/document/SavedDrawing.h"
 #include "tests/reference_host/document/SheetFolder.h"
 

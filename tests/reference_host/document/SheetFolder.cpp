@@ -1,7 +1,5 @@
 #include "tests/reference_host/document/SheetFolder.h"
 
-#include "tests/reference_host/document/ZipBuilder.h"
-
 #include <fstream>
 #include <iterator>
 
@@ -73,13 +71,4 @@ FlatDrawing LinkedDrawing(const std::string& linkAttributes)
 FlatDrawing EditingDrawing()
 {
     return LinkedDrawing("sp:editable='true'");
-}
-
-std::string PackageOf(const FlatDrawing& drawing)
-{
-    return ZipBuilder()
-        .Add("mimetype", "application/vnd.oasis.opendocument.graphics")
-        .Add("content.xml", drawing.ContentText(), ZipBuilder::Packing::Deflated)
-        .Add("styles.xml", drawing.StylesText(), ZipBuilder::Packing::Deflated)
-        .Build();
 }

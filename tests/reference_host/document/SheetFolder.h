@@ -46,6 +46,3 @@ private:
 
 /// LinkedDrawing() whose link lets the sheet be edited.
 [[nodiscard]] FlatDrawing EditingDrawing();
-
-/// A package with this drawing in it.
-[[nodiscard]] std::string PackageOf(const FlatDrawing& drawing);
