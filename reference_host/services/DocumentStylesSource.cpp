@@ -44,6 +44,14 @@ void AnnounceChange()
                                                                         OvxStringT()));
 }
 
+/// Tells whether a style can be saved with a parent: a sheet outside the document is a file of its own, whose
+/// styles know one another only.
+bool LiesWithinReach(const Style& style, const Style* parent)
+{
+    return parent == nullptr || !style.IsExternal() ||
+           (parent->IsExternal() && parent->GetExternalStyleSheetName() == style.GetExternalStyleSheetName());
+}
+
 } // namespace
 
 DocumentStylesSource::DocumentStylesSource(IDocumentStyles& openDocument)
@@ -81,9 +89,9 @@ Styles::StyleSheet* DocumentStylesSource::GetStyleSheet()
     return document.GetStyleSheet();
 }
 
-Styles::StyleSheet* DocumentStylesSource::GetExternalStyleSheet(const OvxStringT& /*sheetName*/)
+Styles::StyleSheet* DocumentStylesSource::GetExternalStyleSheet(const OvxStringT& sheetName)
 {
-    return nullptr;
+    return document.GetExternalStyleSheet(sheetName);
 }
 
 bool DocumentStylesSource::ShouldIgnoreCharacterStyleSiblings()
@@ -133,7 +141,8 @@ void DocumentStylesSource::ReplaceProperties(Style* style, const Styles::Propert
 
 void DocumentStylesSource::CreateStyle(const Styles::PropertyKey& category, const OvxStringT& name)
 {
-    if (editor == nullptr)
+    const auto isOutside = [](const Style* style) { return style != nullptr && style->IsExternal(); };
+    if (editor == nullptr || std::ranges::any_of(selectedStyles, isOutside))
         return;
     const History::Step step(editor->GetHistory(), StepName(L"history.create-style"));
     Style* const created = editor->AddStyle(category, name);
@@ -156,7 +165,8 @@ void DocumentStylesSource::ApplyStyle(Style* style, bool /*reserved*/)
 
 void DocumentStylesSource::SetParent(Style* target, Style* parent, bool /*reserved*/)
 {
-    if (editor == nullptr || !MayInherit(target) || (parent != nullptr && IsDefault(*parent)))
+    if (editor == nullptr || !MayInherit(target) || !LiesWithinReach(*target, parent) ||
+        (parent != nullptr && IsDefault(*parent)))
         return;
     const History::Step step(editor->GetHistory(), StepName(L"history.set-parent"));
     Style* const part = parent == nullptr ? target : PartOfCategory(target, parent->GetCategoryName());

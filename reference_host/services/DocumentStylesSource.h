@@ -20,8 +20,8 @@ class TransactionOverrides;
 ///
 /// What it writes goes to the document's history: each operation is one named step, or part of the step that
 /// is open. What is refused changes nothing and leaves no step: styles of sheets outside the document without
-/// a link, default styles as parents or with one, and parents that would close a cycle. A document without an
-/// editor is not changed at all.
+/// a link, parents for such styles that lie in no other place than they do, default styles as parents or with
+/// one, and parents that would close a cycle. A document without an editor is not changed at all.
 ///
 /// After each step that is recorded, undone or redone it raises "StylePropertiesChange" on idle, once, unless
 /// the step has changed default styles only: who writes those announces it.
@@ -50,7 +50,7 @@ public:
 
     Styles::StyleSheet* GetStyleSheet() override;
 
-    /// Null: drawings have no sheets outside themselves.
+    /// As the document answers; null without a sheet of that name.
     Styles::StyleSheet* GetExternalStyleSheet(const OvxStringT& sheetName) override;
 
     bool ShouldIgnoreCharacterStyleSiblings() override;
@@ -74,7 +74,9 @@ public:
 
     /// Makes a named style out of what the first selected style sets, which inherits it from then on, as do
     /// the other selected ones that set the same. Of a category other than "style" the substyle of that
-    /// category is meant. Without a selection the style is empty. A name that is empty or taken is refused.
+    /// category is meant. Without a selection the style is empty. A name that is empty or taken is refused,
+    /// and so is a selection with a style of a sheet outside the document, which could not inherit from the
+    /// new one.
     void CreateStyle(const Styles::PropertyKey& category, const OvxStringT& name) override;
 
     /// Makes the style the parent of each selected style, or of its substyle when the style is of one

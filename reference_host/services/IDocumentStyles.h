@@ -22,6 +22,10 @@ public:
     /// The named styles of the document; may be null.
     virtual Styles::StyleSheet* GetStyleSheet() = 0;
 
+    /// The named styles of a sheet outside the document that it may inherit from; null, as it is unless a
+    /// document says otherwise, for a name that is none of such a sheet.
+    virtual Styles::StyleSheet* GetExternalStyleSheet(const OvxStringT& /*sheetName*/) { return nullptr; }
+
     /// The document's default styles, in order; none of them null.
     virtual std::vector<Styles::Style*> GetDefaultStyles() = 0;
 

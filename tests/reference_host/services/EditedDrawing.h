@@ -27,6 +27,11 @@ public:
 
     Styles::StyleSheet* GetStyleSheet() override { return &drawing.GetStyleSheet(); }
 
+    Styles::StyleSheet* GetExternalStyleSheet(const OvxStringT& name) override
+    {
+        return drawing.FindExternalSheet(name);
+    }
+
     std::vector<Styles::Style*> GetDefaultStyles() override { return {&drawing.GetDefaultStyle()}; }
 
     [[nodiscard]] bool IsHidden(const OvxStringT& name) const override { return drawing.IsHidden(name); }
