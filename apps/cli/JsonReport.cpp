@@ -139,6 +139,7 @@ Json StyleToJson(const Workbench::NamedStyleFacts& style)
     json["own"] = TextsToJson(style.own);
     json["users"] = style.users;
     json["external"] = style.isExternal;
+    json["sheet"] = OptionalToJson(style.sheet);
     return json;
 }
 

@@ -6,7 +6,8 @@
 
 #include <algorithm>
 #include <iterator>
-#include <unordered_map>
+#include <map>
+#include <utility>
 
 namespace Cli
 {
@@ -183,13 +184,14 @@ class StyleTree
 public:
     explicit StyleTree(const std::vector<Workbench::NamedStyleFacts>& allStyles) : styles(allStyles)
     {
-        std::unordered_map<OvxStringT, std::size_t> places;
+        // Sheets outside the drawing may have styles of the same names.
+        std::map<std::pair<OvxStringT, OvxStringT>, std::size_t> places;
         for (std::size_t i = 0; i < styles.size(); ++i)
-            places.emplace(styles[i].name, i);
+            places.emplace(std::pair(styles[i].sheet, styles[i].name), i);
         children.resize(styles.size());
         for (std::size_t i = 0; i < styles.size(); ++i)
         {
-            const auto parent = places.find(styles[i].parent);
+            const auto parent = places.find({styles[i].parentSheet, styles[i].parent});
             (parent == places.end() ? roots : children[parent->second]).push_back(i);
         }
     }

@@ -10,6 +10,11 @@ Styles::StyleSheet* DrawingStyles::GetStyleSheet()
     return &drawing->GetStyleSheet();
 }
 
+Styles::StyleSheet* DrawingStyles::GetExternalStyleSheet(const OvxStringT& sheetName)
+{
+    return drawing->FindExternalSheet(sheetName);
+}
+
 std::vector<Styles::Style*> DrawingStyles::GetDefaultStyles()
 {
     return {&drawing->GetDefaultStyle()};

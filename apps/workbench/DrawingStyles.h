@@ -22,6 +22,9 @@ public:
 
     Styles::StyleSheet* GetStyleSheet() override;
 
+    /// A style sheet outside the drawing that it links to.
+    Styles::StyleSheet* GetExternalStyleSheet(const OvxStringT& sheetName) override;
+
     /// The one default style of the drawing.
     std::vector<Styles::Style*> GetDefaultStyles() override;
 

@@ -81,12 +81,13 @@ std::vector<Change> Editor::DescribeChanges()
     return workings->ledger.Describe();
 }
 
-void Editor::Save(const std::filesystem::path& target, bool keepBackup, std::vector<std::string>& warnings)
+std::vector<std::filesystem::path> Editor::Save(const std::filesystem::path& target, bool keepBackup,
+                                                std::vector<std::string>& warnings)
 {
     workings->DemandNoGroup("saving");
     ReferenceHost::SaveOptions options;
     options.keepBackup = keepBackup;
-    workings->session.GetDrawing().Save(target, options, warnings);
+    return workings->session.GetDrawing().Save(target, options, warnings);
 }
 
 } // namespace Workbench

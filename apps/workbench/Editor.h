@@ -144,13 +144,15 @@ public:
     /// compared with what it was when the drawing was opened; what was undone does not show.
     [[nodiscard]] std::vector<Change> DescribeChanges();
 
-    /// Saves the drawing as it is now.
+    /// Saves the drawing as it is now, and before it the style sheets whose styles were changed.
     ///
     /// @param target     replaced as a whole or not at all; may be the file that was opened.
-    /// @param keepBackup an existing target is kept beside it, with "~" behind its name.
+    /// @param keepBackup what each file was is kept beside it, with "~" behind its name.
     /// @param warnings   receives one line in UTF-8 for everything that the file cannot hold.
+    /// @returns the files of style sheets that were written.
     /// @throws ReferenceHost::DocumentError when it cannot be written; EditError while a group is open.
-    void Save(const std::filesystem::path& target, bool keepBackup, std::vector<std::string>& warnings);
+    std::vector<std::filesystem::path> Save(const std::filesystem::path& target, bool keepBackup,
+                                            std::vector<std::string>& warnings);
 
     /// What the sources of this class share; for these alone.
     struct Workings;

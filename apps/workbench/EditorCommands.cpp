@@ -99,6 +99,33 @@ void DemandApplicableStyle(const Editor::Workings& workings, const RowPlace& pla
         DemandAgreement(workings, place);
 }
 
+void DemandEditableParents(const Editor::Workings& workings, const RowPlace& place)
+{
+    const TargetHandover& styles = workings.session.GetStyles();
+    for (const OvxStringT& name : styles.ParentsOfTargets(place.panel->GetDataSource()))
+    {
+        const OvxStringT sheet = styles.ReadOnlySheetOf(name);
+        if (!sheet.empty())
+            workings.Refuse(place, "cannot be applied to the parent",
+                            "and " + Quoted(name) + " comes from the style sheet " + Quoted(sheet) +
+                                ", which the drawing does not let be edited");
+    }
+}
+
+/// Panels name the drawing's own styles only.
+std::string WhyNoStyleIsNamed(const Editor::Workings& workings, const RowPlace& place)
+{
+    const TargetHandover& styles = workings.session.GetStyles();
+    const std::vector<OvxStringT>& own = styles.GetStyleNames();
+    for (const OvxStringT& name : styles.ParentsOfTargets(place.panel->GetDataSource()))
+    {
+        if (std::find(own.begin(), own.end(), name) == own.end())
+            return "and " + Quoted(name) + " comes from a style sheet; select " +
+                   Quoted(OvxStringViewT(L"sheet:") + name) + " instead";
+    }
+    return "and no named style is inherited from";
+}
+
 /// Remembers the styles that are about to receive values.
 void NoteParents(Editor::Workings& workings, const RowPlace& place)
 {
@@ -132,8 +159,7 @@ void DemandFreeName(const TargetHandover& styles, const std::optional<OvxStringT
         return;
     if (name->empty())
         throw UsageError("the name of a style is empty; expected a text");
-    const std::vector<OvxStringT>& names = styles.GetStyleNames();
-    if (std::find(names.begin(), names.end(), *name) != names.end())
+    if (!styles.CategoryOf(*name).empty())
         throw UsageError("there is a style " + Quoted(*name) + " already; expected a name that is free");
 }
 
@@ -180,6 +206,7 @@ void Editor::ApplyToParent(const std::vector<OvxStringT>& rowsOrPanels)
             DemandApplicableStyle(*workings, place);
         else
             DemandApplicableRow(*workings, place);
+        DemandEditableParents(*workings, place);
     }
     for (const RowPlace& place : places)
         NoteParents(*workings, place);
@@ -215,7 +242,7 @@ OvxStringT Editor::EditStyle(const OvxStringT& panel)
     if (IsEnabled(place.GetBoundNames(), place.GetIdentifier(), L"EditStyleEnable"))
         RunCommand(place.GetBoundNames(), place.GetIdentifier(), L"OnEditStyle");
     if (!workings->askedStyle)
-        workings->Refuse(place, "has no style to edit", "and no named style is inherited from");
+        workings->Refuse(place, "has no style to edit", WhyNoStyleIsNamed(*workings, place));
 
     const OvxStringT name = *workings->askedStyle;
     workings->Select(Selection{OvxStringViewT(L"sheet:") + name, SelectorScope::Sheet, name, {}});

@@ -78,7 +78,10 @@ void DemandTakenParent(const Editor::Workings& workings, const RowWrite& write)
     const auto* name = write.value.TryGet<OvxStringT>();
     const bool isNone = name == nullptr || name->empty();
     if (isNone ? !taken.IsEmpty() : !(taken == write.value))
-        workings.Refuse(write.place, "cannot be set", "and the drawing did not take this parent");
+        workings.Refuse(
+            write.place, "cannot be set",
+            "and the drawing did not take this parent: styles of a style sheet cannot be picked, nor "
+            "inherit from the drawing's own");
 }
 
 void Write(Editor::Workings& workings, const RowWrite& write)

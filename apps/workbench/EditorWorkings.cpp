@@ -5,6 +5,7 @@
 #include "apps/workbench/Gesture.h"
 #include "apps/workbench/PanelCommands.h"
 #include "apps/workbench/PanelReading.h"
+#include "apps/workbench/QuotedNames.h"
 #include "host/utils/Utf8.h"
 #include "reference_host/services/Idle.h"
 
@@ -96,6 +97,13 @@ void Editor::Workings::DemandTargets(const RowPlace& place) const
         throw EditError(OvxUtils::ToUtf8(place.GetName()) + " cannot be edited on " +
                         OvxUtils::ToUtf8(selection.selector) +
                         ": nothing that is selected belongs to this panel");
+    const bool isNamed = selection.scope == SelectorScope::Sheet;
+    const OvxStringT readOnly =
+        isNamed ? session.GetStyles().ReadOnlySheetOf(selection.styleName) : OvxStringT();
+    if (!readOnly.empty())
+        throw EditError(OvxUtils::ToUtf8(place.GetName()) + " cannot be edited on " +
+                        OvxUtils::ToUtf8(selection.selector) + ": the style comes from the style sheet " +
+                        Quoted(readOnly) + ", which the drawing does not let be edited");
 }
 
 void Editor::Workings::DemandNoGroup(const std::string& action) const

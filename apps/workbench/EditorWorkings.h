@@ -41,7 +41,8 @@ struct Editor::Workings
     [[nodiscard]] std::vector<RowPlace> FindRows(const std::vector<OvxStringT>& names) const;
     [[nodiscard]] std::vector<RowPlace> FindRowsOrPanels(const std::vector<OvxStringT>& names) const;
 
-    /// @throws EditError when nothing of what is selected belongs to the panel.
+    /// @throws EditError when nothing of what is selected belongs to the panel, and when it is a style of a
+    ///         sheet that may not be edited from the drawing.
     void DemandTargets(const RowPlace& place) const;
 
     /// @throws EditError while a group is open.

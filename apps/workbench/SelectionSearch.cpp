@@ -160,7 +160,9 @@ Selection FindSelection(Drawing& drawing, const TargetHandover& handover, const 
     Selection selection{selector.text, selector.scope, selector.styleName, {}};
     if (selector.scope == SelectorScope::Sheet)
     {
-        const std::vector<OvxStringT>& names = handover.GetStyleNames();
+        std::vector<OvxStringT> names = handover.GetStyleNames();
+        const std::vector<OvxStringT> external = handover.GetExternalStyleNames();
+        names.insert(names.end(), external.begin(), external.end());
         if (std::find(names.begin(), names.end(), selector.styleName) == names.end())
             Fail(drawing, selector,
                  names.empty() ? "\"all\", as the drawing has no named styles"

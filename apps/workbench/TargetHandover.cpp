@@ -66,11 +66,9 @@ Targets TargetsOfObjects(const std::vector<DrawingObject*>& objects, TargetKind 
     return targets;
 }
 
-Targets TargetsOfSheet(const Styles::StyleSheet& sheet, const OvxStringT& styleName,
-                       const PropertyKey& category)
+Targets TargetsOfNamedStyle(Style* style, const PropertyKey& category)
 {
     Targets targets;
-    Style* const style = sheet.GetStyle(styleName);
     if (style == nullptr)
         return targets;
     const PropertyKey styleCategory = style->GetCategoryName();
@@ -91,7 +89,7 @@ Targets TargetsOf(ReferenceHost::Drawing& drawing, const Selection& selection,
     case SelectorScope::Sheet:
         break;
     }
-    return TargetsOfSheet(drawing.GetStyleSheet(), selection.styleName, KeyOf(description.category));
+    return TargetsOfNamedStyle(drawing.FindStyle(selection.styleName), KeyOf(description.category));
 }
 
 /// The parent of a category style, else that of the style that owns it; null without one.
@@ -121,6 +119,24 @@ std::vector<OvxStringT> OwnPaths(const Style& style)
             JoinKeys(category == Styles::StyleCategoryName ? path : Styles::MakePath(category, path)));
     std::sort(own.begin(), own.end());
     return own;
+}
+
+NamedStyleFacts Describe(const ReferenceHost::Drawing& drawing, const Style& style)
+{
+    NamedStyleFacts facts;
+    facts.name = drawing.FindStyleName(&style);
+    const bool isMeantByName = drawing.FindStyle(facts.name) == &style;
+    facts.displayName = isMeantByName ? drawing.GetDisplayName(facts.name) : facts.name;
+    facts.category = style.GetCategoryName().GetString();
+    facts.own = OwnPaths(style);
+    facts.isExternal = style.IsExternal();
+    facts.sheet = style.GetExternalStyleSheetName();
+    if (const Style* const parent = style.GetParent())
+    {
+        facts.parent = drawing.FindStyleName(parent);
+        facts.parentSheet = parent->GetExternalStyleSheetName();
+    }
+    return facts;
 }
 
 } // namespace
@@ -155,7 +171,7 @@ HandedTargets TargetHandover::HandIn(BaseStylePropertiesDatasource& panel,
     HandedTargets handed{panel.HasTargets(), panel.AreTargetsDefaultStyles(), {}};
     const std::vector<Style*> styles = panel.GetTargetStyles();
     if (!styles.empty())
-        handed.styleName = drawing->GetStyleSheet().GetStyleName(styles.front());
+        handed.styleName = drawing->FindStyleName(styles.front());
     return handed;
 }
 
@@ -164,7 +180,7 @@ void TargetHandover::HandInAsSelected(ReferenceHost::DocumentStylesSource& sourc
 {
     if (selection.scope == SelectorScope::Sheet)
     {
-        Style* const style = drawing->GetStyleSheet().GetStyle(selection.styleName);
+        Style* const style = drawing->FindStyle(selection.styleName);
         source.SetSelectedStyles(style == nullptr ? std::vector<Style*>() : std::vector<Style*>{style});
         return;
     }
@@ -206,7 +222,7 @@ std::vector<OvxStringT> TargetHandover::ParentsOfTargets(const BaseStyleProperti
         const Style* const parent = DirectParentOf(panel.GetTargetStyle(index));
         if (parent == nullptr || !seen.insert(parent).second)
             continue;
-        const OvxStringT name = drawing->GetStyleSheet().GetStyleName(parent);
+        const OvxStringT name = drawing->FindStyleName(parent);
         if (!name.empty())
             names.push_back(name);
     }
@@ -217,7 +233,7 @@ std::vector<OvxStringT> TargetHandover::ParentOfEachTarget(const BaseStyleProper
 {
     std::vector<OvxStringT> names;
     for (std::size_t index = 0; index < panel.GetNumTargetStyles(); ++index)
-        names.push_back(drawing->GetStyleSheet().GetStyleName(DirectParentOf(panel.GetTargetStyle(index))));
+        names.push_back(drawing->FindStyleName(DirectParentOf(panel.GetTargetStyle(index))));
     return names;
 }
 
@@ -232,55 +248,70 @@ const std::vector<OvxStringT>& TargetHandover::GetStyleNames() const
     return drawing->GetStyleSheet().GetNames();
 }
 
+std::vector<OvxStringT> TargetHandover::GetExternalStyleNames() const
+{
+    std::vector<OvxStringT> names;
+    for (const OvxStringT& sheetName : drawing->GetExternalSheetNames())
+    {
+        const ReferenceHost::NamedStyleSheet& sheet = *drawing->FindExternalSheet(sheetName);
+        for (const OvxStringT& name : sheet.GetNames())
+        {
+            if (drawing->FindStyle(name) == sheet.GetStyle(name))
+                names.push_back(name);
+        }
+    }
+    return names;
+}
+
+OvxStringT TargetHandover::ReadOnlySheetOf(const OvxStringT& styleName) const
+{
+    const Style* const style = drawing->FindStyle(styleName);
+    const bool isReadOnly = style != nullptr && style->IsExternal() && style->GetExternalLink().empty();
+    return isReadOnly ? style->GetExternalStyleSheetName() : OvxStringT();
+}
+
 OvxStringT TargetHandover::NamedStyleOf(DrawingObject& object) const
 {
     const Style* const style = object.GetStyle();
-    return style == nullptr ? OvxStringT() : drawing->GetStyleSheet().GetStyleName(style->GetParent());
+    return style == nullptr ? OvxStringT() : drawing->FindStyleName(style->GetParent());
 }
 
 std::vector<OvxStringT> TargetHandover::AncestorsOf(const OvxStringT& styleName) const
 {
-    const Styles::StyleSheet& sheet = drawing->GetStyleSheet();
     std::vector<OvxStringT> names;
-    const Style* style = sheet.GetStyle(styleName);
+    const Style* style = drawing->FindStyle(styleName);
     while (style != nullptr && (style = style->GetParent()) != nullptr)
-        names.push_back(sheet.GetStyleName(style));
+        names.push_back(drawing->FindStyleName(style));
     return names;
 }
 
 OvxStringT TargetHandover::CategoryOf(const OvxStringT& styleName) const
 {
-    const Style* const style = drawing->GetStyleSheet().GetStyle(styleName);
+    const Style* const style = drawing->FindStyle(styleName);
     return style == nullptr ? OvxStringT() : style->GetCategoryName().GetString();
 }
 
 std::vector<NamedStyleFacts> TargetHandover::DescribeNamedStyles() const
 {
-    std::unordered_map<OvxStringT, std::size_t> users;
+    std::unordered_map<const Style*, std::size_t> users;
     for (DrawingObject& object : drawing->GetObjects())
-        ++users[NamedStyleOf(object)];
-    std::vector<NamedStyleFacts> facts;
-    for (const OvxStringT& name : GetStyleNames())
     {
-        facts.push_back(Describe(name));
-        facts.back().users = users[name];
+        const Style* const style = object.GetStyle();
+        ++users[style == nullptr ? nullptr : style->GetParent()];
     }
-    return facts;
-}
-
-NamedStyleFacts TargetHandover::Describe(const OvxStringT& styleName) const
-{
-    const Styles::StyleSheet& sheet = drawing->GetStyleSheet();
-    NamedStyleFacts facts;
-    facts.name = styleName;
-    facts.displayName = drawing->GetDisplayName(styleName);
-    const Style* const style = sheet.GetStyle(styleName);
-    if (style == nullptr)
-        return facts;
-    facts.parent = sheet.GetStyleName(style->GetParent());
-    facts.category = style->GetCategoryName().GetString();
-    facts.own = OwnPaths(*style);
-    facts.isExternal = style->IsExternal();
+    std::vector<NamedStyleFacts> facts;
+    const auto describeAll = [&](const ReferenceHost::NamedStyleSheet& sheet)
+    {
+        for (const OvxStringT& name : sheet.GetNames())
+        {
+            const Style& style = *sheet.GetStyle(name);
+            facts.push_back(Describe(*drawing, style));
+            facts.back().users = users[&style];
+        }
+    };
+    describeAll(drawing->GetStyleSheet());
+    for (const OvxStringT& sheetName : drawing->GetExternalSheetNames())
+        describeAll(*drawing->FindExternalSheet(sheetName));
     return facts;
 }
 

@@ -21,7 +21,7 @@ struct HandedTargets
 {
     bool hasTargets = false;
     bool isDefaults = false; ///< The targets are the drawing's default styles.
-    OvxStringT styleName;    ///< The first target's name in the sheet; empty for any but a named style.
+    OvxStringT styleName;    ///< The first target's name in its sheet; empty for any but a named style.
 };
 
 /// A named style of a drawing, in words.
@@ -29,8 +29,10 @@ struct NamedStyleFacts
 {
     OvxStringT name;
     OvxStringT displayName;
-    OvxStringT parent;   ///< The name of the style it inherits from; empty without one.
-    OvxStringT category; ///< "style" for a whole style.
+    OvxStringT sheet;  ///< The style sheet outside the drawing that holds it; empty for the drawing's own.
+    OvxStringT parent; ///< The name of the style it inherits from; empty without one.
+    OvxStringT parentSheet; ///< The sheet outside the drawing that holds that; empty for the drawing's own.
+    OvxStringT category;    ///< "style" for a whole style.
     std::vector<OvxStringT>
         own;               ///< What it sets itself: category and keys joined by ".", in the order of letters.
     std::size_t users = 0; ///< How many objects have it as their named style.
@@ -95,8 +97,16 @@ public:
     [[nodiscard]] std::vector<OvxStringT>
     ParentOfEachTarget(const BaseStylePropertiesDatasource& panel) const;
 
-    /// The names of all named styles, in the order of the sheet.
+    /// The names of the drawing's own named styles, in the order of the sheet.
     [[nodiscard]] const std::vector<OvxStringT>& GetStyleNames() const;
+
+    /// The names by which styles of sheets outside the drawing can be meant, in the order of the sheets:
+    /// those that the drawing has no style of itself.
+    [[nodiscard]] std::vector<OvxStringT> GetExternalStyleNames() const;
+
+    /// The style sheet outside the drawing that keeps a named style from being edited; empty for a style that
+    /// may be, and for an unknown name.
+    [[nodiscard]] OvxStringT ReadOnlySheetOf(const OvxStringT& styleName) const;
 
     /// The named style that an object inherits from; empty for a group and without one.
     [[nodiscard]] OvxStringT NamedStyleOf(ReferenceHost::DrawingObject& object) const;
@@ -107,12 +117,10 @@ public:
     /// The category of a named style, "style" for a whole style; empty for an unknown name.
     [[nodiscard]] OvxStringT CategoryOf(const OvxStringT& styleName) const;
 
-    /// All named styles, in the order of the sheet.
+    /// All named styles in the order of the sheet, and behind them those of the sheets outside the drawing.
     [[nodiscard]] std::vector<NamedStyleFacts> DescribeNamedStyles() const;
 
 private:
-    [[nodiscard]] NamedStyleFacts Describe(const OvxStringT& styleName) const;
-
     ReferenceHost::Drawing* drawing;
 };
 

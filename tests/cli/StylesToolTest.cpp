@@ -37,9 +37,9 @@ TEST(ListedStyles, HaveEveryFieldInOrder)
 
     EXPECT_EQ(json.at("styles").dump(),
               R"([{"name":"Mid One","displayName":"Middle","parent":"Base","category":"style",)"
-              R"("own":["character.size","fill.color"],"users":2,"external":false},)"
+              R"("own":["character.size","fill.color"],"users":2,"external":false,"sheet":null},)"
               R"({"name":"Base","displayName":"Base","parent":null,"category":"style","own":[],"users":0,)"
-              R"("external":false}])");
+              R"("external":false,"sheet":null}])");
     EXPECT_EQ(json.at("file"), drawing.GetFile());
 }
 

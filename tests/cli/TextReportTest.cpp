@@ -225,6 +225,24 @@ TEST(StyleTree, NamesDisplayNamesAndExternalStyles)
                 testing::HasSubstr("\nMid One (Middle) [external]  style"));
 }
 
+TEST(StyleTree, TellsStylesOfOneNameApartByTheirSheets)
+{
+    std::vector<NamedStyleFacts> styles = {NamedStyle(L"Box", L"Child"), NamedStyle(L"Box", L""),
+                                           NamedStyle(L"Child", L"Box")};
+    styles[0].parentSheet = L"House";
+    for (const std::size_t external : {1U, 2U})
+    {
+        styles[external].sheet = L"House";
+        styles[external].isExternal = true;
+    }
+    styles[2].parentSheet = L"House";
+
+    EXPECT_EQ(LayOut(StylesToText(styles), Colouring::Off), "Style                 Category  Used by  Sets\n"
+                                                            "Box [external]        style     0\n"
+                                                            "  Child [external]    style     0\n"
+                                                            "    Box               style     0\n");
+}
+
 TEST(StyleTree, WalksLongChains)
 {
     std::vector<NamedStyleFacts> styles;

@@ -3,6 +3,7 @@
 #include "apps/workbench/SelectionSearch.h"
 #include "host/style_model/CategoryNames.h"
 #include "tests/reference_host/document/FlatDrawing.h"
+#include "tests/reference_host/document/SheetFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -240,6 +241,94 @@ TEST(NamedStyles, AreDescribedInTheOrderOfTheSheet)
     EXPECT_THAT(facts[1].own, ElementsAre(L"character.size", L"fill.color", L"outline.type"));
     EXPECT_EQ(facts[1].users, 2U);
     EXPECT_FALSE(facts[1].isExternal);
+}
+
+namespace
+{
+
+class StylesOfASheet : public testing::Test
+{
+protected:
+    StylesOfASheet()
+    {
+        folder.Write("house.fodg", HouseSheet());
+        folder.Write("drawing.fodg", LinkedDrawing());
+        opened = folder.Open("drawing.fodg");
+    }
+
+    SheetFolder folder;
+    OpenedDrawing opened;
+};
+
+} // namespace
+
+TEST_F(StylesOfASheet, AreDescribedBehindThoseOfTheDrawing)
+{
+    const auto facts = TargetHandover(*opened.drawing).DescribeNamedStyles();
+
+    ASSERT_THAT(facts, testing::SizeIs(4));
+    EXPECT_EQ(facts[0].name, L"Note");
+    EXPECT_FALSE(facts[0].isExternal);
+    EXPECT_EQ(facts[0].sheet, L"");
+    EXPECT_EQ(facts[0].parent, L"House Base");
+    EXPECT_EQ(facts[0].parentSheet, L"House");
+    EXPECT_EQ(facts[2].name, L"House Box");
+    EXPECT_EQ(facts[2].displayName, L"Box of the house");
+    EXPECT_TRUE(facts[2].isExternal);
+    EXPECT_EQ(facts[2].sheet, L"House");
+    EXPECT_EQ(facts[2].parent, L"House Base");
+    EXPECT_EQ(facts[2].users, 1U);
+    EXPECT_EQ(facts[3].category, L"fill");
+}
+
+TEST_F(StylesOfASheet, AreNamedAsWhatObjectsInheritFrom)
+{
+    const TargetHandover handover(*opened.drawing);
+
+    EXPECT_EQ(handover.NamedStyleOf(*opened.Object(L"1/1")), L"House Box");
+    EXPECT_THAT(handover.AncestorsOf(L"House Box"), ElementsAre(L"House Base"));
+    EXPECT_THAT(handover.AncestorsOf(L"Note"), ElementsAre(L"House Base"));
+    EXPECT_EQ(handover.CategoryOf(L"House Ink"), L"fill");
+}
+
+TEST_F(StylesOfASheet, AreHandedInByTheirNames)
+{
+    const TargetHandover handover(*opened.drawing);
+    const auto selection =
+        FindSelection(*opened.drawing, handover, Workbench::ParseSelector(L"sheet:House Box"));
+    RecordingPanel panel;
+
+    const HandedTargets handed = handover.HandIn(panel, PanelFor(TargetKind::Objects), selection);
+
+    EXPECT_THAT(panel.styles, ElementsAre(opened.drawing->FindStyle(L"House Box")));
+    EXPECT_EQ(handed.styleName, L"House Box");
+    EXPECT_THAT(handover.ParentsOfTargets(panel), ElementsAre(L"House Base"));
+}
+
+TEST_F(StylesOfASheet, AreMeantOnlyWhereTheDrawingHasNoneOfTheName)
+{
+    FlatDrawing drawing = LinkedDrawing();
+    folder.Write("drawing.fodg", drawing.Named("style:name='House_20_Box'"));
+    const OpenedDrawing hiding = folder.Open("drawing.fodg");
+    const TargetHandover handover(*hiding.drawing);
+
+    EXPECT_THAT(handover.GetExternalStyleNames(), ElementsAre(L"House Base", L"House Ink"));
+    const auto facts = handover.DescribeNamedStyles();
+    ASSERT_THAT(facts, testing::SizeIs(5));
+    EXPECT_EQ(facts[1].users, 1U);
+    EXPECT_EQ(facts[3].displayName, L"House Box");
+    EXPECT_EQ(facts[3].users, 0U);
+}
+
+TEST_F(StylesOfASheet, AreReadOnlyWithoutALink)
+{
+    folder.Write("editing.fodg", EditingDrawing());
+    const OpenedDrawing editing = folder.Open("editing.fodg");
+
+    EXPECT_EQ(TargetHandover(*opened.drawing).ReadOnlySheetOf(L"House Box"), L"House");
+    EXPECT_EQ(TargetHandover(*opened.drawing).ReadOnlySheetOf(L"Note"), L"");
+    EXPECT_EQ(TargetHandover(*opened.drawing).ReadOnlySheetOf(L"unknown"), L"");
+    EXPECT_EQ(TargetHandover(*editing.drawing).ReadOnlySheetOf(L"House Box"), L"");
 }
 
 TEST_F(HandingIn, TellsTheStylesThatTargetsInheritFromOnceEach)
