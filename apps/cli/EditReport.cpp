@@ -113,6 +113,8 @@ std::vector<TextLine> ChangesToText(const EditResult& result,
 {
     std::vector<TextLine> lines;
     lines.push_back({{{SavingToText(result), OutputRole::Heading}}, 0});
+    for (const std::filesystem::path& sheet : result.savedSheets)
+        lines.push_back({{{Fill(L"edit.saved-sheet", {PathToText(sheet)}), OutputRole::Heading}}, 0});
     if (result.changes.empty())
         lines.push_back({{{GetString(L"edit.no-change"), OutputRole::Faint}}, 2});
     const RowsByName rows = RowsOf(panels);

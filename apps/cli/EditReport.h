@@ -17,8 +17,9 @@ namespace Cli
 /// What became of a drawing that was edited.
 struct EditResult
 {
-    std::filesystem::path file;    ///< The drawing that was read.
-    std::filesystem::path savedAs; ///< Empty when nothing was saved.
+    std::filesystem::path file;                     ///< The drawing that was read.
+    std::filesystem::path savedAs;                  ///< Empty when nothing was saved.
+    std::vector<std::filesystem::path> savedSheets; ///< Style sheets that were saved with the drawing.
     bool isDryRun = false;
     bool isScript = false;
     std::vector<EditAnswer> answers;

@@ -26,18 +26,18 @@ namespace
 
 /// Saves where the options say. In place, a drawing without a step is left alone.
 ///
-/// @returns the file that was written; empty for none.
-std::filesystem::path Save(Workbench::Editor& editor, const EditedDrawing& edited)
+/// @param result receives which files were written.
+void Save(Workbench::Editor& editor, const EditedDrawing& edited, EditResult& result)
 {
     const OutputOptions& output = edited.output;
     if (output.isDryRun || (output.isInPlace && editor.GetStepCount() == 0))
-        return {};
+        return;
     const std::filesystem::path target =
         output.isInPlace ? std::filesystem::path(edited.drawing.file) : output.target;
     std::vector<std::string> warnings;
-    editor.Save(target, output.keepsBackup, warnings);
+    result.savedSheets = editor.Save(target, output.keepsBackup, warnings);
+    result.savedAs = target;
     WriteWarnings(warnings);
-    return target;
 }
 
 /// The panels, with what is wrong with them told.
@@ -92,7 +92,7 @@ void EditDrawing(const EditedDrawing& edited, EditResult result, const std::func
         edit(run);
         result.changes = editor.DescribeChanges();
         result.steps = editor.GetStepCount();
-        result.savedAs = Save(editor, edited);
+        Save(editor, edited, result);
         result.answers = run.GetAnswers();
     };
     RunCommands(session, folder, selector, work);
