@@ -74,6 +74,15 @@ TEST_F(EditedLength, SaysWhereTheDrawingWent)
     EXPECT_THAT(Text(), StartsWith("a.fodg: nothing saved (dry run)\n"));
 }
 
+TEST_F(EditedLength, SaysWhichStyleSheetsWereSaved)
+{
+    result.savedSheets = {"styles/house.fodg", "more.fodg"};
+
+    EXPECT_THAT(Text(), StartsWith("a.fodg: saved as b.fodg\n"
+                                   "styles/house.fodg: style sheet saved\n"
+                                   "more.fodg: style sheet saved\n"));
+}
+
 TEST_F(EditedLength, SaysThatAValueWasOrIsNotSet)
 {
     result.changes[0].from = {};

@@ -237,10 +237,10 @@ TEST(StyleTree, TellsStylesOfOneNameApartByTheirSheets)
     }
     styles[2].parentSheet = L"House";
 
-    EXPECT_EQ(LayOut(StylesToText(styles), Colouring::Off), "Style                 Category  Used by  Sets\n"
-                                                            "Box [external]        style     0\n"
-                                                            "  Child [external]    style     0\n"
-                                                            "    Box               style     0\n");
+    EXPECT_EQ(LayOut(StylesToText(styles), Colouring::Off), "Style               Category  Used by  Sets\n"
+                                                            "Box [external]      style     0\n"
+                                                            "  Child [external]  style     0\n"
+                                                            "    Box             style     0\n");
 }
 
 TEST(StyleTree, WalksLongChains)

@@ -2,6 +2,7 @@
 
 #include "apps/workbench/SelectionError.h"
 #include "tests/reference_host/document/FlatDrawing.h"
+#include "tests/reference_host/document/SheetFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -210,4 +211,17 @@ TEST_F(SearchForASelection, KeepsStylesTogether)
 
     ASSERT_THAT(single, testing::SizeIs(1));
     EXPECT_EQ(single[0].scope, SelectorScope::Defaults);
+}
+
+TEST_F(SearchForASelection, FindsStylesOfSheetsAndOffersThem)
+{
+    const SheetFolder folder;
+    folder.Write("house.fodg", HouseSheet());
+    folder.Write("drawing.fodg", LinkedDrawing());
+    opened = folder.Open("drawing.fodg");
+
+    EXPECT_EQ(Find(L"sheet:House Box").styleName, L"House Box");
+    EXPECT_THAT(IdsOf(L"style:House*"), ElementsAre(L"1/1"));
+    EXPECT_EQ(ErrorOf(L"sheet:Box"), "nothing fits the selector \"sheet:Box\"; expected one of the styles "
+                                     "\"Note\", \"House Base\", \"House Box\", \"House Ink\"");
 }
