@@ -127,14 +127,17 @@ PaletteWrite ParsePaletteWrite(const PaletteAssignment& assignment)
             ParsePlainColour(OvxStringViewT(L"palette:") + assignment.name, assignment.colour)};
 }
 
-/// A name that the drawing does not define would mean nothing to whoever opens it. The empty name is that of
+/// A name that the file does not define would mean nothing to whoever opens it. The empty name is that of
 /// none.
-void DemandDefinedName(const TargetHandover& styles, const RowPlace& place, const OvxStringT& name)
+void DemandDefinedName(const Editor::Workings& workings, const RowPlace& place, const OvxStringT& name)
 {
-    const auto defined = styles.DefinedNames(place.panel->GetDescription(), *place.row);
+    const TargetHandover& styles = workings.session.GetStyles();
+    const auto defined = styles.DefinedNames(place.panel->GetDescription(), *place.row, workings.selection);
     if (!defined || name.empty() || std::find(defined->begin(), defined->end(), name) != defined->end())
         return;
-    throw UsageError(OvxUtils::ToUtf8(place.GetName()) + ": the drawing defines no " + Quoted(name) +
+    const OvxStringT sheet = styles.SheetOf(workings.selection);
+    const std::string file = sheet.empty() ? "drawing" : "style sheet " + Quoted(sheet);
+    throw UsageError(OvxUtils::ToUtf8(place.GetName()) + ": the " + file + " defines no " + Quoted(name) +
                      "; expected " +
                      (defined->empty() ? "nothing, as it defines none" : QuotedList(*defined)));
 }
@@ -147,7 +150,7 @@ void Editor::Set(const std::vector<Assignment>& assignments)
     for (const Assignment& assignment : assignments)
     {
         const RowPlace place = FindRow(workings->session.GetPanels(), assignment.row);
-        DemandDefinedName(workings->session.GetStyles(), place, assignment.value);
+        DemandDefinedName(*workings, place, assignment.value);
         writes.push_back({place, ParseRowValue(*place.row, place.GetName(), assignment.value,
                                                workings->session.GetDrawing())});
     }

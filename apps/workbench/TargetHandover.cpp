@@ -238,9 +238,10 @@ std::vector<OvxStringT> TargetHandover::ParentOfEachTarget(const BaseStyleProper
 }
 
 std::optional<std::vector<OvxStringT>> TargetHandover::DefinedNames(const PanelDescription& description,
-                                                                    const RowDescription& row) const
+                                                                    const RowDescription& row,
+                                                                    const Selection& selection) const
 {
-    return drawing->GetDefinedNames(KeyOf(description.category), KeyOf(row.identifier));
+    return drawing->GetDefinedNames(KeyOf(description.category), KeyOf(row.identifier), SheetOf(selection));
 }
 
 const std::vector<OvxStringT>& TargetHandover::GetStyleNames() const
@@ -261,6 +262,13 @@ std::vector<OvxStringT> TargetHandover::GetExternalStyleNames() const
         }
     }
     return names;
+}
+
+OvxStringT TargetHandover::SheetOf(const Selection& selection) const
+{
+    const Style* const style =
+        selection.scope == SelectorScope::Sheet ? drawing->FindStyle(selection.styleName) : nullptr;
+    return style == nullptr ? OvxStringT() : style->GetExternalStyleSheetName();
 }
 
 OvxStringT TargetHandover::ReadOnlySheetOf(const OvxStringT& styleName) const

@@ -83,10 +83,11 @@ public:
     /// The value of a choice that means `text`.
     [[nodiscard]] static OvxUtils::Any ChoiceOfText(const OvxStringT& text);
 
-    /// What a row that holds the name of a gradient, hatch and so on may name in the drawing; none for any
-    /// other row.
+    /// What a row that holds the name of a gradient, hatch and so on may name in the file of what is
+    /// selected: the drawing, or the style sheet of a style outside it. None for any other row.
     [[nodiscard]] std::optional<std::vector<OvxStringT>> DefinedNames(const PanelDescription& description,
-                                                                      const RowDescription& row) const;
+                                                                      const RowDescription& row,
+                                                                      const Selection& selection) const;
 
     /// The named styles that the targets of a panel inherit from directly, in the panel's category: each name
     /// once, in the order of the targets. Styles without a name are left out.
@@ -103,6 +104,10 @@ public:
     /// The names by which styles of sheets outside the drawing can be meant, in the order of the sheets:
     /// those that the drawing has no style of itself.
     [[nodiscard]] std::vector<OvxStringT> GetExternalStyleNames() const;
+
+    /// The style sheet outside the drawing that holds what is selected; empty for what the drawing holds
+    /// itself.
+    [[nodiscard]] OvxStringT SheetOf(const Selection& selection) const;
 
     /// The style sheet outside the drawing that keeps a named style from being edited; empty for a style that
     /// may be, and for an unknown name.

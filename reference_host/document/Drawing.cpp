@@ -140,14 +140,17 @@ std::optional<CLR_COLORSPEC::Rgb> Drawing::FindPaletteColour(const OvxStringT& n
 }
 
 std::optional<std::vector<OvxStringT>> Drawing::GetDefinedNames(const Styles::PropertyKey& category,
-                                                                const Styles::PropertyKey& key) const
+                                                                const Styles::PropertyKey& key,
+                                                                const OvxStringT& sheetName) const
 {
+    const ExternalSheet* const sheet = data->sheets.Find(sheetName);
+    const DeclaredNames& declared = sheet == nullptr ? data->declared : sheet->data->declared;
     const PropertyMapping* const row = data->table.FindRow(category, key);
     if (row == nullptr || !IsDefinitionKind(row->definition))
         return std::nullopt;
     const std::string kind = DefinitionKey(row->definition, {});
     std::vector<OvxStringT> names;
-    for (const auto& [definition, name] : data->declared.definitions)
+    for (const auto& [definition, name] : declared.definitions)
     {
         if (definition.starts_with(kind))
             names.push_back(name);

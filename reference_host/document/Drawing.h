@@ -128,8 +128,12 @@ public:
 
     /// What a property that holds the name of a definition may name in this drawing: gradients, hatches and
     /// so on, in alphabetical order. None for a property that holds no such name.
+    ///
+    /// @param sheetName asks about the file of a style sheet outside the drawing; empty for the drawing
+    ///                  itself, as which an unknown name counts too.
     [[nodiscard]] std::optional<std::vector<OvxStringT>>
-    GetDefinedNames(const Styles::PropertyKey& category, const Styles::PropertyKey& key) const;
+    GetDefinedNames(const Styles::PropertyKey& category, const Styles::PropertyKey& key,
+                    const OvxStringT& sheetName = {}) const;
 
     /// The categories that every whole style has a substyle of: fill, outline, paragraph, character, then
     /// those of the extensions in the order given.

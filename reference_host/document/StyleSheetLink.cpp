@@ -51,9 +51,9 @@ std::string_view PathInFileUrl(std::string_view url)
     if (!path.starts_with('/') || path.starts_with("//"))
         return {};
     // "/C:/sheets/house.odg": a drive stands behind a slash that is none of the path.
-    constexpr bool hasDrives = fs::path::preferred_separator == '\\';
+    constexpr bool kHasDrives = fs::path::preferred_separator == '\\';
     const bool beginsWithDrive = path.size() > 2 && IsLetter(path[1]) && path[2] == ':';
-    return hasDrives && beginsWithDrive ? path.substr(1) : path;
+    return kHasDrives && beginsWithDrive ? path.substr(1) : path;
 }
 
 /// Decodes "%20"; a "%" that no two hexadecimal digits follow stands for itself.

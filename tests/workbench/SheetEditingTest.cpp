@@ -23,7 +23,7 @@ protected:
     /// Opens a drawing beside the sheet and selects in it.
     void Open(const FlatDrawing& drawing, const wchar_t* selector)
     {
-        folder.Write("house.fodg", HouseSheet());
+        folder.Write("house.fodg", sheet);
         open.emplace(folder.Write("drawing.fodg", drawing));
         open->Select(selector);
     }
@@ -47,6 +47,7 @@ protected:
         return open->editor.Save(folder.PathOf("drawing.fodg"), false, warnings);
     }
 
+    FlatDrawing sheet = HouseSheet().Styles("<draw:gradient draw:name='Dusk'/>");
     SheetFolder folder;
     std::vector<std::string> warnings;
     std::optional<OpenEditor> open;
@@ -111,6 +112,18 @@ TEST_F(SheetEditing, ReachesTheFileAndEveryShapeWithALink)
     EXPECT_THAT(folder.Bytes("house.fodg"), HasSubstr("#010203"));
 }
 
+TEST_F(SheetEditing, TakesTheDefinitionsOfTheSheet)
+{
+    FlatDrawing drawing = EditingDrawing();
+    Open(drawing.Styles("<draw:gradient draw:name='Dawn'/>"), L"sheet:House Box");
+
+    EXPECT_EQ(OpenEditor::ErrorOf([&] { open->Set(L"fill.gradient", L"Dawn"); }),
+              "fill.gradient: the style sheet \"House\" defines no \"Dawn\"; expected \"Dusk\"");
+    open->Set(L"fill.gradient", L"Dusk");
+
+    EXPECT_EQ(open->ValueOf(L"fill.gradient"), "Dusk");
+}
+
 TEST_F(SheetEditing, IsUndoneInOneStep)
 {
     Open(EditingDrawing(), L"name:Box");
@@ -123,7 +136,7 @@ TEST_F(SheetEditing, IsUndoneInOneStep)
     EXPECT_TRUE(open->editor.Undo());
     EXPECT_EQ(open->Dump() + open->ValueOf(L"sheet:House Box", L"outline.width"), before);
     EXPECT_THAT(Save(), IsEmpty());
-    EXPECT_EQ(folder.Bytes("house.fodg"), HouseSheet().Text());
+    EXPECT_EQ(folder.Bytes("house.fodg"), sheet.Text());
 }
 
 TEST_F(SheetEditing, ShowsWhereValuesComeFrom)

@@ -123,6 +123,23 @@ TEST_F(StylesOfSheets, FallBackToTheDefaultStyleOfTheDrawing)
     EXPECT_EQ(EffectiveOf(opened.Object(L"1/1")->GetStyle(), "fill.transparency"), "-");
 }
 
+TEST_F(StylesOfSheets, KeepTheValuesThatTheirFileGivesThem)
+{
+    folder.Write("house.fodg", FlatDrawing()
+                                   .Defaults("<style:text-properties fo:font-size='20pt'/>")
+                                   .Named("style:name='Small'", "<style:text-properties fo:font-size='50%'/>")
+                                   .Page(""));
+
+    const OpenedDrawing opened = Open(FlatDrawing()
+                                          .Styles(LinkTo("house.fodg", "sp:name='House'"))
+                                          .Defaults("<style:text-properties fo:font-size='40pt'/>")
+                                          .Named("style:name='Own' style:parent-style-name='Small'")
+                                          .Page(""));
+
+    EXPECT_EQ(OwnOf(External(opened, L"Small"), "character.size"), "100");
+    EXPECT_EQ(EffectiveOf(opened.Named(L"Own"), "character.size"), "100");
+}
+
 TEST_F(StylesOfSheets, ComeFromPackagesToo)
 {
     folder.WriteBytes("house.otg", PackageOf(HouseSheet()));
