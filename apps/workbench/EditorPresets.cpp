@@ -72,7 +72,7 @@ void DemandDefinitions(const Editor::Workings& workings, const RowPlace& place, 
     const PanelDescription& description = place.panel->GetDescription();
     for (const RowDescription& row : description.rows)
     {
-        const auto defined = workings.session.GetStyles().DefinedNames(description, row);
+        const auto defined = workings.session.GetStyles().DefinedNames(description, row, workings.selection);
         if (!defined || !IsLocal({place.panel, &row}))
             continue;
         const OvxUtils::Any value = place.GetBoundNames().ReadAny(row.property);

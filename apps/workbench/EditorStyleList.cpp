@@ -91,6 +91,10 @@ private:
     {
         const OvxStringT category = workings.session.GetStyles().CategoryOf(name);
         const OvxStringT& ours = place.panel->GetDescription().category;
+        const OvxStringT sheet = workings.session.GetStyles().SheetOf(name);
+        if (!sheet.empty())
+            throw EditError(Quoted(name) + " cannot be picked: it comes from the style sheet " +
+                            Quoted(sheet) + ", and panels list the drawing's own styles only");
         if (category == ours)
             throw EditError(Quoted(name) + " cannot be picked on " +
                             OvxUtils::ToUtf8(workings.selection.selector) +

@@ -135,7 +135,7 @@ void DemandDefinedName(const Editor::Workings& workings, const RowPlace& place, 
     const auto defined = styles.DefinedNames(place.panel->GetDescription(), *place.row, workings.selection);
     if (!defined || name.empty() || std::find(defined->begin(), defined->end(), name) != defined->end())
         return;
-    const OvxStringT sheet = styles.SheetOf(workings.selection);
+    const OvxStringT sheet = styles.SheetOf(workings.selection.styleName);
     const std::string file = sheet.empty() ? "drawing" : "style sheet " + Quoted(sheet);
     throw UsageError(OvxUtils::ToUtf8(place.GetName()) + ": the " + file + " defines no " + Quoted(name) +
                      "; expected " +

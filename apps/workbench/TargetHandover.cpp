@@ -241,7 +241,8 @@ std::optional<std::vector<OvxStringT>> TargetHandover::DefinedNames(const PanelD
                                                                     const RowDescription& row,
                                                                     const Selection& selection) const
 {
-    return drawing->GetDefinedNames(KeyOf(description.category), KeyOf(row.identifier), SheetOf(selection));
+    return drawing->GetDefinedNames(KeyOf(description.category), KeyOf(row.identifier),
+                                    SheetOf(selection.styleName));
 }
 
 const std::vector<OvxStringT>& TargetHandover::GetStyleNames() const
@@ -264,10 +265,9 @@ std::vector<OvxStringT> TargetHandover::GetExternalStyleNames() const
     return names;
 }
 
-OvxStringT TargetHandover::SheetOf(const Selection& selection) const
+OvxStringT TargetHandover::SheetOf(const OvxStringT& styleName) const
 {
-    const Style* const style =
-        selection.scope == SelectorScope::Sheet ? drawing->FindStyle(selection.styleName) : nullptr;
+    const Style* const style = drawing->FindStyle(styleName);
     return style == nullptr ? OvxStringT() : style->GetExternalStyleSheetName();
 }
 

@@ -105,9 +105,9 @@ public:
     /// those that the drawing has no style of itself.
     [[nodiscard]] std::vector<OvxStringT> GetExternalStyleNames() const;
 
-    /// The style sheet outside the drawing that holds what is selected; empty for what the drawing holds
-    /// itself.
-    [[nodiscard]] OvxStringT SheetOf(const Selection& selection) const;
+    /// The style sheet outside the drawing that holds the style of that name; empty for a style of the
+    /// drawing itself, and for an unknown name.
+    [[nodiscard]] OvxStringT SheetOf(const OvxStringT& styleName) const;
 
     /// The style sheet outside the drawing that keeps a named style from being edited; empty for a style that
     /// may be, and for an unknown name.

@@ -153,7 +153,20 @@ TEST_F(SheetEditing, KeepsThePanelsListToTheStylesOfTheDrawing)
 
     EXPECT_THAT(OpenEditor::ErrorOf([&] { open->Set(L"style.style", L"House Base"); }),
                 HasSubstr("styles of a style sheet cannot be picked"));
+    EXPECT_EQ(
+        OpenEditor::ErrorOf([&] { open->editor.Restyle(L"style", Workbench::PickByName{L"House Base"}); }),
+        "\"House Base\" cannot be picked: it comes from the style sheet \"House\", and panels list the "
+        "drawing's own styles only");
     EXPECT_EQ(open->ValueOf(L"style.style"), "House Box");
+}
+
+TEST_F(SheetEditing, IsNotNeededToLeaveTheSheet)
+{
+    Open(LinkedDrawing(), L"name:Box");
+
+    open->editor.Restyle(L"style", Workbench::PickByName{L"Note"});
+
+    EXPECT_EQ(open->ValueOf(L"style.style"), "Note");
 }
 
 TEST_F(SheetEditing, TellsHowToSelectAStyleThatPanelsDoNotName)
