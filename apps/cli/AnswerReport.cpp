@@ -90,11 +90,12 @@ TextLine PresetToLine(const PresetReport& preset)
             0};
 }
 
-/// An entry as a menu shows it, where "&&" stands for one "&".
-TextLine EntryToLine(const StyleListEntry& entry)
+/// An entry as people see it: in the main list, which is a menu, "&&" stands for one "&".
+TextLine EntryToLine(const StyleListEntry& entry, Workbench::StyleListPart part)
 {
     OvxStringT text = entry.text;
-    text.Replace(L"&&", L"&");
+    if (part == Workbench::StyleListPart::Main)
+        text.Replace(L"&&", L"&");
     return {{{OvxStringT::Format(L"%d", static_cast<int>(entry.id)), OutputRole::Faint},
              {OvxStringT(entry.isChecked ? L"✓" : L" "), OutputRole::Plain},
              {text, OutputRole::Plain}},
@@ -124,7 +125,7 @@ struct TextWriter
     {
         Lines lines;
         for (const StyleListEntry& entry : list.entries)
-            lines.push_back(EntryToLine(entry));
+            lines.push_back(EntryToLine(entry, list.part));
         return list.entries.empty() ? OneLine(GetString(L"style-list.empty")) : lines;
     }
 

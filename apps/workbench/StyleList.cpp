@@ -41,6 +41,7 @@ StyleList ReadStyleList(const IReflectable& panel, StyleListPart part)
     const auto root =
         panel.Read<WXmlNode>(part == StyleListPart::Main ? L"StyleResourceList" : L"NewStyleList");
     StyleList list;
+    list.part = part;
     for (const WXmlNode& node : root.GetChildren())
         list.entries.push_back(ReadEntry(node));
     if (part == StyleListPart::Main)

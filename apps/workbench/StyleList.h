@@ -9,6 +9,13 @@
 namespace Workbench
 {
 
+/// The two lists of a panel's styles.
+enum class StyleListPart
+{
+    Main,
+    More ///< Those that the main list does not show.
+};
+
 /// An entry of a panel's list of styles.
 struct StyleListEntry
 {
@@ -20,18 +27,12 @@ struct StyleListEntry
     WXmlNode node;              ///< What is written to "CurrentListStyleItem" to choose it in the dialog.
 };
 
-/// The two lists of a panel's styles.
-enum class StyleListPart
-{
-    Main,
-    More ///< Those that the main list does not show.
-};
-
 /// The list from which a panel's targets take their style, in the order of the panel.
 struct StyleList
 {
     std::vector<StyleListEntry> entries;
     bool hasMore = false; ///< The last entry stands for all styles that the main list does not show.
+    StyleListPart part = StyleListPart::Main;
 };
 
 /// Lets a panel build its main list, or that of the styles which the main list built last does not show.
