@@ -122,6 +122,8 @@ PanelReport Editor::DescribePreset(const OvxStringT& panel, const OvxStringT& na
                                                  {L"defaults", SelectorScope::Defaults, {}, {}});
         place.GetBoundNames().Write<WCmnUI_ListItem>(L"CurrentPreset", item);
         report = ReadPanel(place.GetBoundNames(), place.panel->GetDescription(), handed);
+        // None: what was only looked at is not what a command on the selected preset would be about.
+        place.GetBoundNames().Write<WCmnUI_ListItem>(L"CurrentPreset", WCmnUI_ListItem());
     }
     workings->Refresh();
     std::erase_if(report.rows,
