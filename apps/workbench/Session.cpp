@@ -124,8 +124,9 @@ std::vector<std::string> Session::LoadPanels(const std::vector<PanelDescription>
         // A module is somebody else's code: whatever it throws while it is set up is its own problem.
         try
         {
-            panels.push_back(std::make_unique<Panel>(description, context));
-            TargetHandover::OfferPresets(stylesSource, panels.back()->GetDataSource(), description);
+            auto panel = std::make_unique<Panel>(description, context);
+            TargetHandover::OfferPresets(stylesSource, panel->GetDataSource(), description);
+            panels.push_back(std::move(panel));
         }
         catch (const std::exception& error)
         {
