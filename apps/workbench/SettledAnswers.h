@@ -3,7 +3,9 @@
 #include "apps/workbench/IDialogAnswers.h"
 #include "host/utils/OvxStringT.h"
 
+#include <cstddef>
 #include <optional>
+#include <utility>
 
 namespace Workbench
 {
