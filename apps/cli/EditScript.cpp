@@ -166,7 +166,7 @@ EditScript ParseEditScript(const std::string& name, std::string_view text)
             if (words.empty())
                 continue;
             script.commands.push_back({number, ReadEditingCommand(words)});
-            groups.Take(script.commands.back(), words.front());
+            groups.Take(script.commands.back(), NameOfCommand(words));
         }
         catch (const UsageError& error)
         {

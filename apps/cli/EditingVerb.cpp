@@ -285,6 +285,12 @@ void DeclareWords(CLI::App& parser, const EditingVerb& verb, EditingWords& words
     DeclareOptions(parser, verb.options, words);
 }
 
+std::string NameOfCommand(const std::vector<std::string>& words)
+{
+    const EditingVerb* const verb = FindVerb(words);
+    return verb == nullptr ? words.front() : verb->name;
+}
+
 EditingCommand ReadEditingCommand(const std::vector<std::string>& words)
 {
     const EditingVerb* const verb = FindVerb(words);

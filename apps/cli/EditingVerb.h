@@ -80,6 +80,9 @@ struct EditingVerb
 /// Makes a parser take the words of a command. `words` is filled when it parses, and must live until then.
 void DeclareWords(CLI::App& parser, const EditingVerb& verb, EditingWords& words);
 
+/// The name of the command that begins the words, of which there is at least one; the first word for none.
+[[nodiscard]] std::string NameOfCommand(const std::vector<std::string>& words);
+
 /// Reads a command from a script: its name and what stands behind it.
 ///
 /// @param words at least one.
