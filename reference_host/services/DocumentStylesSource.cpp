@@ -187,7 +187,8 @@ void DocumentStylesSource::ApplyPresetToStyles(const OvxStringT& name, const Ovx
     if (editor == nullptr || keeper == nullptr || known == presetCategories.end())
         return;
     const std::unique_ptr<Style> preset = keeper->LoadPreset(category, name);
-    const Style* const part = Styles::GetStyleOrSubstyle(preset.get(), known->second, false);
+    // Made where the preset has none: what is silent in the category lets all of it be inherited.
+    const Style* const part = Styles::GetStyleOrSubstyle(preset.get(), known->second, true);
     if (part == nullptr)
         return;
     const History::Step step(editor->GetHistory(), StepName(L"history.apply-preset"));
