@@ -1,10 +1,12 @@
 #include "apps/workbench/Session.h"
 
+#include "apps/workbench/Editor.h"
 #include "apps/workbench/PanelFolder.h"
 #include "module/StylesCommon.h"
 #include "reference_host/document/DocumentError.h"
 #include "reference_host/style_model/StyleHosting.h"
 #include "tests/reference_host/document/FlatDrawing.h"
+#include "tests/workbench/ScratchConfiguration.h"
 #include "tests/workbench/ThirdPartyFolder.h"
 
 #include <gmock/gmock.h>
@@ -15,6 +17,7 @@
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
+using Workbench::Editor;
 using Workbench::PanelFolder;
 using Workbench::PanelReport;
 using Workbench::ParseSelector;
@@ -178,5 +181,78 @@ TEST_F(SessionOnADrawing, LeavesNothingBehindWhenTheDrawingCannotBeRead)
     EXPECT_THROW(Session(scratch.GetPath() / "missing.fodg", {}), ReferenceHost::DocumentError);
 
     EXPECT_EQ(StylesCommon::GetApp(), nullptr);
+    EXPECT_EQ(ReferenceHost::Application::GetCurrent(), nullptr);
+}
+
+TEST_F(SessionOnADrawing, GivesPresetsOfAPanelToItsOwnCategory)
+{
+    const WorkbenchTests::ScratchConfiguration configuration;
+    std::string description = WorkbenchTests::ShadowDescription();
+    description.replace(description.find("ShadowPanelDatasource"), 6, "StoredShadow");
+    thirdParty.Write("shadow", description);
+    const PanelFolder folder = ReadPanelFolder(thirdParty.GetPath());
+    Session session(Write(TwoBoxes()), folder.panels);
+    ASSERT_THAT(session.LoadPanels(folder.panels), IsEmpty());
+    Editor editor(session);
+    editor.AddPreset(L"shadow", L"Deep", std::nullopt);
+    editor.Select(ParseSelector(L"name:B"));
+
+    editor.ApplyPreset(L"shadow", L"Deep");
+
+    const Report report = session.Inspect(editor.GetSelection());
+    EXPECT_EQ(RowOf(report, L"ShadowDistance").value, ReportValue(300));
+    EXPECT_EQ(RowOf(report, L"ShadowDistance").state, ActivePropertyState::Overridden);
+    EXPECT_THAT(editor.ListPresets(L"shadow"), SizeIs(1));
+}
+
+TEST_F(SessionOnADrawing, KeepsTheWarningsOfPresetsUntilTheyAreTaken)
+{
+    Session session(Write(TwoBoxes()), {});
+
+    EXPECT_THAT(session.TakePresetWarnings(), IsEmpty());
+    EXPECT_EQ(session.TakePresetFailure(), "");
+}
+
+TEST(SessionWithoutADrawing, HasOneObjectAndNoStyles)
+{
+    const PanelFolder folder = ReadPanelFolder(SHIPPED_PANELS);
+    Session session(folder.panels);
+    ASSERT_THAT(session.LoadPanels(folder.panels), IsEmpty());
+
+    const Report report = session.Inspect(session.Select(ParseSelector(L"all")));
+
+    ASSERT_THAT(report.targets, SizeIs(1));
+    EXPECT_EQ(report.targets[0].style, L"");
+    EXPECT_THAT(report.panels, SizeIs(folder.panels.size()));
+    EXPECT_THAT(session.GetStyles().GetStyleNames(), IsEmpty());
+    EXPECT_THAT(session.GetWarnings(), IsEmpty());
+}
+
+TEST(SessionWithoutADrawing, HoldsThePresetsOfThePerson)
+{
+    const WorkbenchTests::ScratchConfiguration configuration;
+    const PanelFolder folder = ReadPanelFolder(SHIPPED_PANELS);
+    Session session(folder.panels);
+    ASSERT_THAT(session.LoadPanels(folder.panels), IsEmpty());
+    Editor editor(session);
+    editor.Select(ParseSelector(L"defaults"));
+    editor.AddPreset(L"fill", L"Plain", std::nullopt);
+
+    editor.DeletePreset(L"fill", L"Plain");
+
+    EXPECT_THAT(editor.ListPresets(L"fill"), IsEmpty());
+    EXPECT_EQ(editor.GetStepCount(), 0U);
+}
+
+TEST(SessionWithoutADrawing, LeavesNothingBehind)
+{
+    const std::size_t before = ReferenceHost::LiveStyleCount();
+    {
+        const PanelFolder folder = ReadPanelFolder(SHIPPED_PANELS);
+        Session session(folder.panels);
+        ASSERT_THAT(session.LoadPanels(folder.panels), IsEmpty());
+    }
+
+    EXPECT_EQ(ReferenceHost::LiveStyleCount(), before);
     EXPECT_EQ(ReferenceHost::Application::GetCurrent(), nullptr);
 }

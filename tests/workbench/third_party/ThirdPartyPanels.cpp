@@ -34,6 +34,22 @@ protected:
     }
 };
 
+/// The same panel with presets.
+class StoredShadowPanelDatasource final : public Panels::PanelDatasource,
+                                          public DataSource<StoredShadowPanelDatasource, true>
+{
+public:
+    void FillDataSourceMap() { RegisterRows(kShadowRows); }
+
+    [[nodiscard]] OvxStringT PresetCategoryName() const override { return L"ShadowPresets"; }
+
+protected:
+    [[nodiscard]] Styles::PropertyKey GetCategory() const override
+    {
+        return Styles::PropertyKey(Styles::PooledString<Styles::StringPool>(L"shadow"));
+    }
+};
+
 /// A panel that binds no rows.
 class HollowPanelDatasource final : public BaseStylePropertiesDatasource,
                                     public DataSource<HollowPanelDatasource, true>
@@ -63,6 +79,7 @@ namespace
 {
 
 const Panels::PanelRegistration<ShadowPanelDatasource> shadow;
+const Panels::PanelRegistration<StoredShadowPanelDatasource> storedShadow;
 const Panels::PanelRegistration<HollowPanelDatasource> hollow;
 
 /// What registers a panel takes no other class.
