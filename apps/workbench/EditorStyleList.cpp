@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 namespace Workbench
 {
@@ -119,6 +120,29 @@ private:
     StyleList main;
 };
 
+/// What the targets of a panel inherit from, and what the objects do that they belong to: text follows its
+/// object, but not before the step is closed.
+struct Parents
+{
+    std::vector<OvxStringT> ofTargets;
+    std::vector<OvxStringT> ofObjects; ///< Empty where the targets are no text.
+
+    friend bool operator==(const Parents&, const Parents&) = default;
+};
+
+Parents ReadParents(const Editor::Workings& workings, const Panel& panel)
+{
+    const TargetHandover& styles = workings.session.GetStyles();
+    Parents parents{styles.ParentOfEachTarget(panel.GetDataSource()), {}};
+    PanelDescription ofObjects = panel.GetDescription();
+    if (std::exchange(ofObjects.targets, TargetKind::Objects) == TargetKind::Objects)
+        return parents;
+    styles.HandIn(panel.GetDataSource(), ofObjects, workings.selection);
+    parents.ofObjects = styles.ParentOfEachTarget(panel.GetDataSource());
+    styles.HandIn(panel.GetDataSource(), panel.GetDescription(), workings.selection);
+    return parents;
+}
+
 /// Why picking an entry left every target with the parent that it had.
 std::string WhyNothing(const Editor::Workings& workings, const PickedEntry& picked,
                        const OvxStringT& firstParent, DialogEnd dialogEnd)
@@ -162,24 +186,24 @@ Restyled Editor::Restyle(const OvxStringT& panel, const StylePick& pick)
     SettledAnswers answers(dialogs.GetAnswers());
     const AnswersInPlace inPlace(dialogs, &answers);
     const PickedEntry picked = std::visit(Picker(*workings, place, answers), pick);
-    const auto parents = [&]
-    { return workings->session.GetStyles().ParentOfEachTarget(place.panel->GetDataSource()); };
-    const std::vector<OvxStringT> before = parents();
-    std::vector<OvxStringT> after;
+    const Parents before = ReadParents(*workings, *place.panel);
+    Parents after;
     const auto restyle = [&]
     {
         static_cast<void>(dialogs.TakeLastEnd());
         dialogs.PickStyle(*place.panel, picked.entry);
-        after = parents();
+        after = ReadParents(*workings, *place.panel);
         if (after == before)
             throw EditError(OvxUtils::ToUtf8(place.GetName()) + " stays as it is on " +
                             OvxUtils::ToUtf8(workings->selection.selector) + " when " +
                             (picked.name.empty() ? "no style" : Quoted(picked.name)) + " is picked: " +
-                            WhyNothing(*workings, picked, before.front(), dialogs.TakeLastEnd()));
+                            WhyNothing(*workings, picked, before.ofTargets.front(), dialogs.TakeLastEnd()));
     };
     workings->Perform(NameStep(picked.name.empty() ? kRemoveStyleStep : kRestyleStep, picked.name), {place},
                       restyle);
-    return {after.front(), picked.name.empty() && before.size() > 1};
+    const bool haveObjectsChanged = after.ofObjects != before.ofObjects;
+    return {haveObjectsChanged ? after.ofObjects.front() : after.ofTargets.front(),
+            picked.name.empty() && before.ofTargets.size() > 1};
 }
 
 } // namespace Workbench

@@ -231,6 +231,60 @@ TEST(PickingInAPanelOfOneCategory, LeavesTheStyleOfTheWholeInForceWhenItIsRemove
     EXPECT_EQ(StyleOf(open, L"name:D"), L"Base");
 }
 
+/// The box D, the only one with text, is selected; the styles "Wide" and "Narrow" are for its paragraphs.
+class PickingForText : public EditorOnFourBoxes
+{
+protected:
+    PickingForText()
+    {
+        MakeStyle(L"Wide", L"9mm");
+        MakeStyle(L"Narrow", L"1mm");
+    }
+
+    void MakeStyle(const wchar_t* name, const wchar_t* leftIndent)
+    {
+        open.Select(L"name:D");
+        editor.CreateStyle(L"paragraph", OvxStringT(name));
+        open.Select((OvxStringViewT(L"sheet:") + OvxStringT(name)).c_str());
+        open.Set(L"paragraph.left-indent", leftIndent);
+        open.Select(L"name:D");
+    }
+};
+
+TEST_F(PickingForText, GivesTheStyleToTheParagraphs)
+{
+    const Restyled restyled = PickInOneStep(open, L"paragraph", PickByName{L"Wide"});
+
+    EXPECT_EQ(restyled.style, L"Wide");
+    EXPECT_EQ(open.ValueOf(L"paragraph.left-indent"), "900");
+    EXPECT_THAT(Show(editor.ListStyles(L"paragraph", StyleListPart::Main)),
+                ElementsAre("0 No Style", "1 Wide *", "2 Narrow"));
+}
+
+TEST_F(PickingForText, GivesTheStyleToTheParagraphsInAGroup)
+{
+    editor.BeginGroup();
+
+    EXPECT_EQ(editor.Restyle(L"paragraph", PickByName{L"Wide"}).style, L"Wide");
+    editor.EndGroup(true);
+
+    EXPECT_EQ(open.ValueOf(L"paragraph.left-indent"), "900");
+}
+
+TEST_F(PickingForText, RefusesTheStyleInForce)
+{
+    EXPECT_THAT(open.ErrorOf([&] { editor.Restyle(L"paragraph", PickByName{L"Narrow"}); }),
+                testing::HasSubstr("inherits from it already"));
+}
+
+TEST_F(PickingForText, TakesTheStyleAway)
+{
+    const Restyled restyled = PickInOneStep(open, L"paragraph", PickNone{});
+
+    EXPECT_EQ(restyled.style, L"Base");
+    EXPECT_EQ(open.ValueOf(L"paragraph.left-indent"), "100");
+}
+
 TEST(PickingInAGroup, IsPartOfTheStepOfTheGroup)
 {
     OpenEditor open(NumberedStyles(3, "S1"));
