@@ -147,6 +147,21 @@ TEST_F(PresetsOfAnEditor, ShowNothingOfWhatTheDefaultStylesSet)
     EXPECT_EQ(grey.ValueOf(L"defaults", L"fill.color"), "#cccccc");
 }
 
+TEST_F(PresetsOfAnEditor, LetEverythingBeInheritedThatTheyDoNotSet)
+{
+    open.End();
+    OpenEditor other(FlatDrawing().Page("<draw:rect draw:name='Box'/>"));
+    other.editor.AddPreset(L"fill", L"Silent", std::nullopt);
+    other.End();
+    OpenEditor boxes(FourBoxes());
+    boxes.Select(L"name:B");
+
+    boxes.editor.ApplyPreset(L"fill", L"Silent");
+
+    EXPECT_EQ(boxes.ValueOf(L"fill.color"), "#3366cc");
+    EXPECT_EQ(boxes.Row(L"fill.color").state, ActivePropertyState::Inherited);
+}
+
 TEST_F(PresetsOfAnEditor, ChangeNothingWhenTheyAreShown)
 {
     Keep(L"fill", L"Amber", L"name:B");
