@@ -1,5 +1,6 @@
 #include "apps/cli/CommandLine.h"
 
+#include "apps/cli/Completion.h"
 #include "apps/cli/DrawingArguments.h"
 #include "apps/cli/EditingCommandLine.h"
 #include "apps/workbench/UsageError.h"
@@ -7,6 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace Cli
@@ -78,6 +80,8 @@ Command ParseCommandLine(int argumentCount, const char* const* arguments)
     const CLI::App* const inspectCommand = AddInspect(app, inspect);
     AddStyles(app, styles);
     EditingCommandLine editing(app);
+    if (argumentCount > 1 && std::string_view(arguments[1]) == kCompletionRequest)
+        return InformationText{CompleteLastWord(app, {arguments + 2, arguments + argumentCount})};
     try
     {
         app.parse(argumentCount, arguments);
