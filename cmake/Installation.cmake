@@ -1,5 +1,8 @@
 # What `cmake --install` puts where. Everything finds everything else by relative paths, so that the installed folder
-# can be moved. Panels install themselves, see panels/CMakeLists.txt.
+# can be moved. Panel modules install themselves, see panels/CMakeLists.txt.
+#
+# Three installation components: "runtime" has the shared libraries, "dev" what one needs to build with them, and
+# "tools" the programs with their panels.
 
 include(CMakePackageConfigHelpers)
 
@@ -13,13 +16,17 @@ else()
 endif()
 file(RELATIVE_PATH librariesFromPrograms /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
 
-# The libraries: a package of two components, each with its export set.
+# The libraries: a package of four components, each with its export set.
 set_target_properties(styleproperties_host PROPERTIES EXPORT_NAME Host)
 set_target_properties(styleproperties PROPERTIES EXPORT_NAME Library INSTALL_RPATH "${origin}")
 set_target_properties(styleproperties_reference_host PROPERTIES EXPORT_NAME ReferenceHost INSTALL_RPATH "${origin}")
 add_library(StyleProperties::Host ALIAS styleproperties_host)
 add_library(StyleProperties::Library ALIAS styleproperties)
+set_target_properties(styleproperties_panels PROPERTIES EXPORT_NAME Panels)
+set_target_properties(styleproperties_workbench PROPERTIES EXPORT_NAME Workbench)
 add_library(StyleProperties::ReferenceHost ALIAS styleproperties_reference_host)
+add_library(StyleProperties::Panels ALIAS styleproperties_panels)
+add_library(StyleProperties::Workbench ALIAS styleproperties_workbench)
 
 # What one needs to use the reference host as it is; how it is made stays here.
 target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
@@ -54,14 +61,50 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
     reference_host/style_model/IStyleJournal.h
     reference_host/style_model/NamedStyleSheet.h)
 
-install(TARGETS styleproperties_host styleproperties EXPORT StylePropertiesLibrary
-    FILE_SET HEADERS DESTINATION ${headers})
-install(TARGETS styleproperties_reference_host EXPORT StylePropertiesReferenceHost
-    FILE_SET HEADERS DESTINATION ${headers})
-foreach(component Library ReferenceHost)
-    install(EXPORT StyleProperties${component} NAMESPACE StyleProperties:: DESTINATION ${package})
-endforeach()
+# What a panel is made of.
+target_sources(styleproperties_panels PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
+    panels/PanelDatasource.h
+    panels/PanelRegistration.h
+    panels/PresetSubscription.h
+    panels/SourceGroup.h
+    panels/ValueOrigin.h)
 
+# What a program needs to open a drawing with its panels; how they are put together stays here.
+target_sources(styleproperties_workbench PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
+    apps/workbench/Change.h
+    apps/workbench/DrawingStyles.h
+    apps/workbench/EditError.h
+    apps/workbench/Editor.h
+    apps/workbench/LibraryIntroduction.h
+    apps/workbench/NamedStyleEditor.h
+    apps/workbench/Panel.h
+    apps/workbench/PanelDescription.h
+    apps/workbench/PanelFolder.h
+    apps/workbench/PanelReading.h
+    apps/workbench/Report.h
+    apps/workbench/Selection.h
+    apps/workbench/SelectionSearch.h
+    apps/workbench/Selector.h
+    apps/workbench/Session.h
+    apps/workbench/TargetHandover.h
+    apps/workbench/UsageError.h)
+
+# styleproperties_install_library(COMPONENT TARGET...): as the component of the CMake package with that name.
+function(styleproperties_install_library component)
+    install(TARGETS ${ARGN} EXPORT StyleProperties${component}
+        LIBRARY COMPONENT runtime NAMELINK_COMPONENT dev
+        RUNTIME COMPONENT runtime
+        ARCHIVE COMPONENT dev
+        FILE_SET HEADERS DESTINATION ${headers} COMPONENT dev)
+    install(EXPORT StyleProperties${component} NAMESPACE StyleProperties:: DESTINATION ${package} COMPONENT dev)
+endfunction()
+
+styleproperties_install_library(Library styleproperties_host styleproperties)
+styleproperties_install_library(ReferenceHost styleproperties_reference_host)
+styleproperties_install_library(Panels styleproperties_panels)
+styleproperties_install_library(Workbench styleproperties_workbench)
+
+set(panels ${CMAKE_INSTALL_LIBDIR}/styleproperties/panels)
 configure_package_config_file(cmake/StylePropertiesConfig.cmake.in ${PROJECT_BINARY_DIR}/StylePropertiesConfig.cmake
     INSTALL_DESTINATION ${package})
 # Before 1.0.0 a minor version may change the interface.
@@ -70,17 +113,19 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/StylePropertiesConfigVers
 install(FILES
     ${PROJECT_BINARY_DIR}/StylePropertiesConfig.cmake
     ${PROJECT_BINARY_DIR}/StylePropertiesConfigVersion.cmake
-    DESTINATION ${package})
+    cmake/StylePropertiesAddPanel.cmake
+    panels/NoExports.map
+    DESTINATION ${package} COMPONENT dev)
 
 # The same for pkg-config.
 file(RELATIVE_PATH prefixFromPkgConfig /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-foreach(name styleproperties styleproperties-reference-host)
+foreach(name styleproperties styleproperties-reference-host styleproperties-panels styleproperties-workbench)
     configure_file(cmake/${name}.pc.in ${PROJECT_BINARY_DIR}/${name}.pc @ONLY)
-    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+    install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 endforeach()
 
 # The programs.
 if(TARGET styleprops)
     set_target_properties(styleprops PROPERTIES INSTALL_RPATH "${origin}/${librariesFromPrograms}")
-    install(TARGETS styleprops)
+    install(TARGETS styleprops RUNTIME COMPONENT tools)
 endif()

@@ -14,6 +14,7 @@ namespace Panels
 /// when it is of the same kind without a style.
 struct ValueOrigin
 {
+    /// How near the value is to the target.
     enum class Kind
     {
         Unset,     ///< Nothing sets a value.
@@ -22,11 +23,12 @@ struct ValueOrigin
         Default    ///< No style that the target inherits from sets it: the host falls back to a default.
     };
 
-    Kind kind = Kind::Unset;
+    Kind kind = Kind::Unset; ///< Whether `style` has a meaning, too.
 
     /// The style that sets the value, as a rule a substyle; null unless Inherited. Borrowed from the host.
     const Styles::Style* style = nullptr;
 
+    /// Equal as the structure describes.
     friend bool operator==(const ValueOrigin&, const ValueOrigin&) = default;
 };
 
