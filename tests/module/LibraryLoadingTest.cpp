@@ -79,6 +79,17 @@ TEST(UnloadingTheLibrary, EndsAnInstanceThatItMade)
     EXPECT_EQ(again.StylesCommonWays().app(), nullptr);
 }
 
+TEST(TheLibrary, LetsTheModuleGoThatBroughtItAlong)
+{
+    OpenedLibrary module(EXPORTING_MODULE);
+    const OpenedLibrary library(STYLE_PROPERTIES_LIBRARY);
+
+    module.Close();
+
+    EXPECT_FALSE(OpenedLibrary::IsLoaded(EXPORTING_MODULE));
+    EXPECT_TRUE(OpenedLibrary::IsLoaded(STYLE_PROPERTIES_LIBRARY));
+}
+
 TEST(TheLibrary, IsLoadedUsedAndUnloadedAHundredTimes)
 {
     const std::vector<IDataSourceFactory*> before = AllFactories();
