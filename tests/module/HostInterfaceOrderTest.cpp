@@ -1,12 +1,25 @@
 // The operations of the interfaces that a host implements stand in the order in which hosts were told to
 // expect them.
 
+#include "host/data_binding/IDataContext.h"
+#include "host/data_binding/IDataSource.h"
 #include "host/data_binding/IDataSourceFactory.h"
+#include "host/data_binding/IDataSourceRegistrar.h"
+#include "host/data_binding/IDialogService.h"
+#include "host/data_binding/IHostObject.h"
+#include "host/data_binding/IReflectable.h"
+#include "host/data_binding/PendingEventBase.h"
+#include "host/services/IAppInterface.h"
 #include "host/services/IOrvexCmn_App.h"
+#include "host/services/IPanelHost.h"
 #include "host/style_model/IStyleApplicator.h"
 #include "host/style_model/IStyleSourceProvider.h"
+#include "host/style_model/IStylesCollectionEditor.h"
 #include "host/style_model/IStylesSource.h"
 #include "host/style_model/IStylesSourceApp.h"
+#include "host/style_model/StyleCategory.h"
+#include "host/style_model/StyleManager.h"
+#include "host/style_model/StyleSheet.h"
 #include "host/utils/PostConstructible.h"
 #include "tests/module/VirtualSlot.h"
 
@@ -72,6 +85,59 @@ TEST(HostInterface, OfAFactoryKeepsItsOrderAfterTheDestructor)
 TEST(HostInterface, OfThePostConstructiblePartFollowsItsDestructorWithPostConstruct)
 {
     EXPECT_THAT(Slots(&OvxUtils::PostConstructible::PostConstruct), ElementsAre(2));
+}
+
+TEST(HostInterface, OfThePanelHostHasOneOperation)
+{
+    EXPECT_THAT(Slots(&IAppInterface::GetPanelHost), ElementsAre(0));
+    EXPECT_THAT(Slots(&IPanelHost::GetObjectPropertiesContext), ElementsAre(0));
+}
+
+TEST(HostInterface, OfTheDataContextKeepsItsOrder)
+{
+    EXPECT_THAT(
+        Slots(&IDataContext::GetHostObject, &IDataContext::GetDataSource, &IDataContext::GetDialogService),
+        ElementsAre(0, 1, 2));
+    EXPECT_THAT(Slots(&IHostObject::Query), ElementsAre(0));
+    EXPECT_THAT(Slots(&IDialogService::ShowDialog, &IDialogService::CloseDialog), ElementsAre(0, 1));
+}
+
+TEST(HostInterface, OfADataSourceKeepsItsOrderAfterTheDestructor)
+{
+    EXPECT_THAT(
+        Slots(&IDataSource::GetDataContext, &IDataSource::SetDataSourceProvider, &IDataSource::Destroy),
+        ElementsAre(2, 3, 4));
+    EXPECT_THAT(Slots(&IReflectable::GetDynamicDelegate, &IReflectable::GetDynamicType), ElementsAre(2, 3));
+    EXPECT_THAT(Slots(&PendingEventBase::GetArguments), ElementsAre(2));
+}
+
+TEST(HostInterface, OfTheRegistrarKeepsItsOrder)
+{
+    using Registrar = IDataSourceRegistrar;
+
+    EXPECT_THAT(Slots(&Registrar::RegisterFactory, &Registrar::UnregisterFactory, &Registrar::FindFactory,
+                      &Registrar::GetFactories),
+                ElementsAre(0, 1, 2, 3));
+}
+
+TEST(HostInterface, OfTheStyleManagerFollowsItsDestructor)
+{
+    EXPECT_THAT(Slots(&Styles::StyleManager::GetCategory), ElementsAre(2));
+    EXPECT_THAT(Slots(&Styles::StyleCategory::GetDisplayName), ElementsAre(2));
+}
+
+TEST(HostInterface, OfTheStyleSheetKeepsItsOrderAfterTheDestructor)
+{
+    using Sheet = Styles::StyleSheet;
+
+    EXPECT_THAT(
+        Slots(&Sheet::GetStyle, &Sheet::GetStyleName, &Sheet::GetStyleNames, &Sheet::GetUnusedStyleName),
+        ElementsAre(2, 3, 4, 5));
+}
+
+TEST(HostInterface, OfTheEditorOfNamedStylesHasOneOperation)
+{
+    EXPECT_THAT(Slots(&IStylesCollectionEditor::EditStyle), ElementsAre(0));
 }
 
 } // namespace
