@@ -57,9 +57,9 @@ public:
     /// One data source that this one shows and edits the targets of as well; borrowed, null is passed over.
     struct SiblingEntry
     {
-        BaseStylePropertiesDatasource* sibling = nullptr;
-        std::vector<Styles::PropertyPath> paths; ///< For derived classes; empty and unused here.
-        bool flag = false;                       ///< For derived classes; false and unused here.
+        BaseStylePropertiesDatasource* sibling = nullptr; ///< The other data source.
+        std::vector<Styles::PropertyPath> paths;          ///< For derived classes; empty and unused here.
+        bool flag = false;                                ///< For derived classes; false and unused here.
     };
 
     /// Makes a data source without targets.
@@ -85,7 +85,7 @@ public:
 
     /// How many targets there are, null ones and those of siblings included; HasTargets() whether any.
     [[nodiscard]] std::size_t GetNumTargetStyles() const override;
-    [[nodiscard]] bool HasTargets() const override;
+    [[nodiscard]] bool HasTargets() const override; ///< Any, null ones included.
 
     /// The title above the panel's section; bound as "SectionTitle".
     ///
@@ -209,29 +209,29 @@ public:
     // Targets
 
     void SetTargetStyle(const std::vector<Styles::Style*>& styles, bool isDefault, Styles::PropertyKey key,
-                        const std::set<Styles::PropertyPath>& forceAmbiguous);
+                        const std::set<Styles::PropertyPath>& forceAmbiguous); ///< With the path of one key.
 
     void ClearObjectStyles(); ///< SetObjectStyles() with an empty map.
 
     /// All targets as they were merged, in order, null ones included.
     [[nodiscard]] std::vector<Styles::Style*> GetTargetStyles() const;
 
-    [[nodiscard]] bool AreTargetsDefaultStyles() const { return isDefaultStyles; }
+    [[nodiscard]] bool AreTargetsDefaultStyles() const { return isDefaultStyles; } ///< As handed in.
 
     /// 1 when the panel edits the properties of objects rather than styles, else 0; bound under its name.
     [[nodiscard]] int IsObjectProperties() const { return isObjectProperties ? 1 : 0; }
 
-    [[nodiscard]] bool IsObjectPropertiesContext() const { return isObjectProperties; }
+    [[nodiscard]] bool IsObjectPropertiesContext() const { return isObjectProperties; } ///< The same as bool.
 
     /// Tells whether the first target is no named style of the sheet; also true without targets.
     [[nodiscard]] bool IsObjectStyle() const { return styleName.empty(); }
 
-    [[nodiscard]] int IsObjectStyleDatabound() const { return styleName.empty() ? 1 : 0; }
+    [[nodiscard]] int IsObjectStyleDatabound() const { return styleName.empty() ? 1 : 0; } ///< As int.
 
     /// 1 when the first target is a named style, else 0; IsStyle() leaves out those that are excluded.
     [[nodiscard]] int IsStyle() const;
 
-    [[nodiscard]] int IsStyleOrDefault() const { return styleName.empty() ? 0 : 1; }
+    [[nodiscard]] int IsStyleOrDefault() const { return styleName.empty() ? 0 : 1; } ///< Excluded or not.
 
     /// 1 when the styles behind the targets may be edited, else 0: no style that is visited on the way from a
     /// target to what it inherits from is external without a link. 1 without targets.
@@ -260,7 +260,7 @@ public:
     /// Notifies "RevertToParentEnable", then "BreakColorResourceEnable", also when nothing changes.
     void SetActiveIdentifier(const OvxStringT& identifier);
 
-    [[nodiscard]] OvxStringT GetActiveIdentifier() const { return activeIdentifier; }
+    [[nodiscard]] OvxStringT GetActiveIdentifier() const { return activeIdentifier; } ///< As it was set.
 
     [[nodiscard]] OvxUtils::Any GetPropertyIcon() const; ///< Always empty: it is asked by writing it.
 
@@ -270,7 +270,7 @@ public:
     /// @throws std::bad_cast when `request` holds anything but an ID_CString.
     void SetPropertyIcon(const OvxUtils::Any& request);
 
-    [[nodiscard]] OvxUtils::Any GetPropertyTooltip() const { return GetPropertyIcon(); }
+    [[nodiscard]] OvxUtils::Any GetPropertyTooltip() const { return GetPropertyIcon(); } ///< As the icon.
 
     /// SetPropertyIcon() with the tooltip text of the state in place of the picture's name.
     void SetPropertyTooltip(const OvxUtils::Any& request);
@@ -315,11 +315,10 @@ public:
     void OnEditStyle();
 
     /// The texts of the commands in menus, with the display name of what the first target inherits from,
-    /// every
-    /// "&" doubled, or with a text for a parent without a name.
+    /// every "&" doubled, or with a text for a parent without a name.
     [[nodiscard]] OvxStringT GetRevertToMenuString() const;
-    [[nodiscard]] OvxStringT GetApplyToMenuString() const;
-    [[nodiscard]] OvxStringT GetEditStyleMenuString() const;
+    [[nodiscard]] OvxStringT GetApplyToMenuString() const;   ///< Of the command "apply".
+    [[nodiscard]] OvxStringT GetEditStyleMenuString() const; ///< Of "edit".
 
     // Style resource list
 
@@ -340,11 +339,11 @@ public:
 
     /// Chooses an item in the more-styles dialog; notifies "BaseStylePropertiesDatasourceOkEnabled".
     void SetCurrentListStyleItem(const WXmlNode& item);
-    [[nodiscard]] WXmlNode GetCurrentListStyleItem() const;
+    [[nodiscard]] WXmlNode GetCurrentListStyleItem() const; ///< The chosen item; invalid while none is.
 
     /// Applies the chosen item and closes the dialog; does nothing while none is chosen.
     void OnBaseStylePropertiesDatasourceOk();
-    [[nodiscard]] int GetBaseStylePropertiesDatasourceOkEnabled() const;
+    [[nodiscard]] int GetBaseStylePropertiesDatasourceOkEnabled() const; ///< 1 while an item is chosen.
 
     /// "State.ObjectProperties" when this lives in the host's current context, else "State.ObjectStyles".
     [[nodiscard]] WCmnUI_Guid GetPropertyPanelStateIdentifier() const;
@@ -388,9 +387,10 @@ protected:
     /// `path` itself or a prefix of it, everything is forced: the empty path is added and nothing else.
     void ImportForceAmbiguous(const Styles::PropertyPath& path, const std::set<Styles::PropertyPath>& paths);
 
+    /// The same with the path of one key.
     void ImportForceAmbiguous(const Styles::PropertyKey& key, const std::set<Styles::PropertyPath>& paths);
 
-    void ClearForceAmbiguous() { forceAmbiguous.clear(); }
+    void ClearForceAmbiguous() { forceAmbiguous.clear(); } ///< Forces nothing any more.
 
     /// Tells whether `path` or a prefix of it, the empty path included, is forced ambiguous.
     [[nodiscard]] bool IsForcedAmbiguous(const Styles::PropertyPath& path) const;

@@ -14,6 +14,8 @@
 #endif
 #define STYLEPROPERTIES_MODULE_LOCAL
 #else
+/// Stands before what the host library exports.
 #define STYLEPROPERTIES_HOST_API __attribute__((visibility("default")))
+/// Stands before templates of which every module has its own.
 #define STYLEPROPERTIES_MODULE_LOCAL __attribute__((visibility("hidden")))
 #endif

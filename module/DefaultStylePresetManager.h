@@ -14,6 +14,8 @@ protected:
     OvxStringT GetPresetFolder(Styles::PresetLocation location, OvxStringT category) override;
     OvxStringT GetPresetFileName(Styles::PresetLocation location, OvxStringT name) override;
     int GetPresetFormat() override;
+    /// The host's folder.
     OvxStringT GetCustomConfigurationDirectory() override;
+    /// The host's folder.
     OvxStringT GetUserDocumentsDirectory() override;
 };

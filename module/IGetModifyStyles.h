@@ -15,6 +15,7 @@ class STYLEPROPERTIES_API IGetModifyStyles
 public:
     IGetModifyStyles() = default;
 
+    /// Assigns nothing: whom it gives styles for does not change.
     IGetModifyStyles& operator=(const IGetModifyStyles&) { return *this; }
 
     /// Writes every property that `values` itself sets to the targets. A null `values` does nothing.
@@ -28,8 +29,10 @@ public:
     /// The style that is shown for the target at `index`; null when there is no such target. Borrowed.
     virtual Styles::Style* GetTargetStyle(std::size_t index) const = 0;
 
+    /// How many targets there are.
     virtual std::size_t GetNumTargetStyles() const = 0;
 
+    /// Tells whether there is any.
     virtual bool HasTargets() const = 0;
 
 protected:

@@ -10,5 +10,6 @@
 #define STYLEPROPERTIES_API __declspec(dllimport)
 #endif
 #else
+/// Stands before what the library exports.
 #define STYLEPROPERTIES_API __attribute__((visibility("default")))
 #endif

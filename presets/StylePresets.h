@@ -40,6 +40,7 @@ public:
     /// and the dialog stays open.
     void OnAddPresetOk();
 
+    /// Tells whether a name was given; bound under its name without "Is".
     [[nodiscard]] bool IsAddPresetOkEnabled() const { return !presetName.empty(); }
 
 private:

@@ -14,6 +14,7 @@ public:
     WDynamicPropertyBase& operator=(const WDynamicPropertyBase&) = delete;
     virtual ~WDynamicPropertyBase() = default;
 
+    /// The name under which the property is bound.
     [[nodiscard]] const OvxStringT& GetName() const noexcept { return name; }
 
     /// What reading the property calls.
@@ -23,6 +24,7 @@ public:
     [[nodiscard]] const RuntimeType& GetType() const noexcept { return type; }
 
 protected:
+    /// Describes a property by its name, what reads it, and the type of its value.
     WDynamicPropertyBase(OvxStringT itsName, DynamicDelegate itsGetter, const RuntimeType& itsType)
         : name(std::move(itsName)), getter(std::move(itsGetter)), type(itsType)
     {

@@ -15,24 +15,26 @@ class STYLEPROPERTIES_HOST_API CLR_COLORSPEC
 {
 public:
     /// The codes that GetModel() gives.
-    static constexpr int kRgb = 1;
-    static constexpr int kCmyk = 2;
-    static constexpr int kGrey = 3;
-    static constexpr int kResource = 28;
+    static constexpr int kRgb = 1;       ///< Red, green and blue.
+    static constexpr int kCmyk = 2;      ///< Cyan, magenta, yellow and black.
+    static constexpr int kGrey = 3;      ///< A level between black and white.
+    static constexpr int kResource = 28; ///< A palette entry.
 
     /// Red, green and blue; the components 0 to 255.
     struct Rgb
     {
-        std::uint8_t red = 0;
-        std::uint8_t green = 0;
-        std::uint8_t blue = 0;
+        std::uint8_t red = 0;   ///< 0 to 255.
+        std::uint8_t green = 0; ///< 0 to 255.
+        std::uint8_t blue = 0;  ///< 0 to 255.
 
+        /// Equal in every component.
         friend bool operator==(const Rgb&, const Rgb&) = default;
     };
 
     /// Black, in the RGB model.
     CLR_COLORSPEC() = default;
 
+    /// The colour with these components.
     [[nodiscard]] static CLR_COLORSPEC FromRgb(Rgb rgb);
 
     /// Cyan, magenta, yellow and black; 0 to 255 each.
@@ -58,7 +60,9 @@ public:
     /// @returns whether there was a reference; a colour without one stays as it is.
     bool BreakReference();
 
+    /// Equal in model, components and palette entry.
     friend bool operator==(const CLR_COLORSPEC&, const CLR_COLORSPEC&) = default;
+    /// Some order, the same throughout one run of the process.
     friend auto operator<=>(const CLR_COLORSPEC&, const CLR_COLORSPEC&) = default;
 
 private:

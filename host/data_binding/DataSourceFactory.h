@@ -17,6 +17,7 @@ template <class T>
 class DataSourceFactory : public IDataSourceFactory
 {
 public:
+    /// `scope` is what GetScopeName() answers.
     explicit DataSourceFactory(OvxStringT scope) : scopeName(std::move(scope)) {}
 
     DataSourceFactory(const DataSourceFactory&) = delete;

@@ -17,6 +17,7 @@
 class STYLEPROPERTIES_HOST_API EventQueue
 {
 public:
+    /// What is called with the arguments of an event.
     using Listener = std::function<void(const std::vector<OvxUtils::Any>& arguments)>;
 
     EventQueue();
@@ -44,7 +45,9 @@ public:
     /// @throws whatever the first failing listener threw, after the last event.
     std::size_t Deliver(const std::function<void(const OvxStringT& name)>& beforeEach = {});
 
+    /// Calls `listener` for each event `name` from now on, until Unsubscribe() with the token.
     ListenerToken Subscribe(OvxStringViewT name, Listener listener);
+    /// Ends a subscription; does nothing when it has ended.
     void Unsubscribe(ListenerToken token);
 
 private:

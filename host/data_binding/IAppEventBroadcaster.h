@@ -8,12 +8,14 @@
 /// What the application does before it delivers an event; the host's own.
 struct STYLEPROPERTIES_HOST_API AppUpdatePolicy
 {
+    /// Called with the name of an event before its listeners are.
     static void PreNotify(const OvxStringT& name);
 };
 
 /// Debug builds assert the user interface's thread; the host's own.
 struct STYLEPROPERTIES_HOST_API UiThreadPolicy
 {
+    /// Asserts in debug builds that the caller is on the thread of the user interface.
     static void Check();
 };
 

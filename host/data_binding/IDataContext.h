@@ -13,11 +13,13 @@ class IDataSource;
 class STYLEPROPERTIES_HOST_API IDataContext
 {
 public:
+    /// The host object that data sources of this context belong to.
     virtual IHostObject* GetHostObject() = 0;
 
     /// The data source of that name or type key.
     virtual IDataSource* GetDataSource(const OvxStringT& name) = 0;
 
+    /// What shows and closes dialogs.
     virtual IDialogService* GetDialogService() = 0;
 
 protected:

@@ -15,8 +15,8 @@
 /// One registered call: the callback and the record of its signature.
 struct DynamicDelegate
 {
-    OvxUtils::RepeatingCallbackMemento callback;
-    RuntimeType type;
+    OvxUtils::RepeatingCallbackMemento callback; ///< What is called.
+    RuntimeType type;                            ///< The type of the value, or of the argument.
 };
 
 /// An object whose properties and commands are reached by name.

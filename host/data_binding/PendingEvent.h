@@ -13,6 +13,7 @@ template <class... Arguments>
 class PendingEvent : public PendingEventBase
 {
 public:
+    /// Keeps copies of what it is given.
     explicit PendingEvent(OvxStringT eventName, Arguments... carried)
         : PendingEventBase(std::move(eventName)), arguments(std::move(carried)...)
     {

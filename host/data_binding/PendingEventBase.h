@@ -14,12 +14,14 @@ public:
     PendingEventBase& operator=(const PendingEventBase&) = delete;
     virtual ~PendingEventBase() = default;
 
+    /// The name under which listeners subscribe.
     [[nodiscard]] const OvxStringT& GetName() const noexcept { return name; }
 
     /// What the event carries, in order.
     [[nodiscard]] virtual std::vector<OvxUtils::Any> GetArguments() const = 0;
 
 protected:
+    /// Keeps the name.
     explicit PendingEventBase(OvxStringT eventName) : name(std::move(eventName)) {}
 
 private:

@@ -15,8 +15,10 @@ public:
     /// The described type, without const; `typeid(void)` for the record of nothing.
     [[nodiscard]] const std::type_info& GetTypeInfo() const noexcept { return *type; }
 
+    /// Tells whether the described value can be read only.
     [[nodiscard]] bool IsConst() const noexcept { return isConst; }
 
+    /// Tells whether this is the record of nothing.
     [[nodiscard]] bool IsEmpty() const noexcept { return *type == typeid(void); }
 
     /// Tells whether the described type is `T`, read-only or not.
@@ -26,12 +28,14 @@ public:
         return *type == typeid(T);
     }
 
+    /// Equal in type and in whether it is read-only.
     friend bool operator==(const RuntimeType& left, const RuntimeType& right) noexcept
     {
         return *left.type == *right.type && left.isConst == right.isConst;
     }
 
 protected:
+    /// Describes a type; type information lives as long as its module.
     RuntimeType(const std::type_info& described, bool readOnly) : type(&described), isConst(readOnly) {}
 
 private:

@@ -7,6 +7,7 @@
 class STYLEPROPERTIES_HOST_API IAppInterface
 {
 public:
+    /// What holds the panels; borrowed, null when the application has none.
     virtual IPanelHost* GetPanelHost() = 0;
 
 protected:

@@ -21,6 +21,7 @@
 class STYLEPROPERTIES_HOST_API IStylesSource
 {
 public:
+    /// The named styles of the document.
     virtual Styles::StyleSheet* GetStyleSheet() = 0;
 
     /// A sheet outside the document, by the name that external styles carry.
@@ -29,11 +30,13 @@ public:
     /// Tells whether character styles are left out when the targets of several panels are merged.
     virtual bool ShouldIgnoreCharacterStyleSiblings() = 0;
 
+    /// The sheet in which the style of a default value is found by its name.
     virtual Styles::StyleSheet* GetDefaultStyleSheet() = 0;
 
     /// The document's default styles, in order; none of them null.
     virtual std::vector<Styles::Style*> GetDefaultStyles() = 0;
 
+    /// What applies one change to many styles.
     virtual IMultipleStyleModifier* GetMultipleStyleModifier() = 0;
 
     /// Moves values into a parent.
@@ -61,6 +64,7 @@ public:
     /// refused.
     virtual void SetParent(Styles::Style* target, Styles::Style* parent, bool reserved) = 0;
 
+    /// Gives the styles what a preset sets.
     virtual void ApplyPresetToStyles(const OvxStringT& name, const OvxStringT& category,
                                      const std::vector<Styles::Style*>& styles) = 0;
 

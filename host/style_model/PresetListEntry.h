@@ -11,7 +11,7 @@ namespace Styles
 /// One preset of a list that is being filled.
 struct PresetListEntry
 {
-    OvxStringT name;
+    OvxStringT name;                 ///< The name of the preset.
     WCmnUI_ListItem* item = nullptr; ///< The item to fill; owned by the list.
     std::uint64_t position = 0;      ///< From 0, in the order of the preset names.
 };

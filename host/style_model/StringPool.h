@@ -16,7 +16,7 @@ public:
     /// A text of the pool. Only the pool's own have a meaning; their addresses tell them apart.
     struct Text
     {
-        OvxStringViewT characters;
+        OvxStringViewT characters; ///< The text itself, kept as long as the process runs.
     };
 
     /// Gives the pooled text equal to `text`, adding it when it is not there; null for the empty text.

@@ -114,6 +114,7 @@ public:
     /// Tells whether the style, or the style that owns it, belongs to an external style sheet.
     [[nodiscard]] bool IsExternal() const;
 
+    /// The category that the style was made for.
     [[nodiscard]] PropertyKey GetCategoryName() const;
 
     /// Makes a style of the same category without a parent that holds every effective value of this style as

@@ -30,6 +30,7 @@ public:
     /// The names of the presets of a category, in the order in which lists show them.
     [[nodiscard]] std::vector<OvxStringT> GetPresetNames(const OvxStringT& category);
 
+    /// Tells whether the category has a preset of that name.
     [[nodiscard]] bool DoesPresetNameExist(const OvxStringT& category, const OvxStringT& name);
 
     /// Keeps a copy of `style` under `name`. With `replace` false, a name that exists is left as it is.
@@ -57,8 +58,10 @@ protected:
     /// The number of the file format in which presets are kept; 0 when none are.
     [[nodiscard]] virtual int GetPresetFormat() = 0;
 
+    /// Where the settings of the user lie; empty when there is no such place.
     [[nodiscard]] virtual OvxStringT GetCustomConfigurationDirectory() = 0;
 
+    /// Where the documents of the user lie; empty when there is no such place.
     [[nodiscard]] virtual OvxStringT GetUserDocumentsDirectory() = 0;
 };
 

@@ -14,8 +14,10 @@ class SubStyle
 public:
     SubStyle() = default;
 
+    /// Refers to `target`, which may be null.
     explicit SubStyle(Style* target) : style(target) {}
 
+    /// The style that it refers to; null for none.
     operator Style*() const noexcept { return style; }
 
 private:

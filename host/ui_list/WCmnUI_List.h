@@ -15,9 +15,13 @@ class STYLEPROPERTIES_HOST_API WCmnUI_List
 {
 public:
     WCmnUI_List();
+    /// Copies every item.
     WCmnUI_List(const WCmnUI_List& other);
+    /// Takes the items, whose addresses stay, and leaves an empty list.
     WCmnUI_List(WCmnUI_List&& other) noexcept;
+    /// Gives up its own items and copies every item.
     WCmnUI_List& operator=(const WCmnUI_List& other);
+    /// Gives up its own items and takes the others, whose addresses stay.
     WCmnUI_List& operator=(WCmnUI_List&& other) noexcept;
     ~WCmnUI_List();
 
@@ -32,10 +36,13 @@ public:
 
     /// The item at `position`, owned by the list; null when there is none.
     [[nodiscard]] WCmnUI_ListItem* GetItem(std::size_t position);
+    /// The item at `position`, owned by the list; null when there is none.
     [[nodiscard]] const WCmnUI_ListItem* GetItem(std::size_t position) const;
 
+    /// How many items there are.
     [[nodiscard]] std::size_t GetCount() const noexcept { return items.size(); }
 
+    /// Equal when they have equal items in the same order.
     friend STYLEPROPERTIES_HOST_API bool operator==(const WCmnUI_List& left, const WCmnUI_List& right);
 
 private:

@@ -57,22 +57,26 @@ class Any
 public:
     Any() noexcept = default;
 
+    /// Holds a copy of `value`, or what was moved from it.
     template <class T>
     requires(!std::same_as<std::remove_cvref_t<T>, Any> &&
              std::copy_constructible<std::remove_cvref_t<T>>) explicit Any(T&& value);
 
+    /// Holds a copy of what the other holds.
     Any(const Any& other) : operations(other.operations)
     {
         if (operations != nullptr)
             operations->copy(other.storage, storage);
     }
 
+    /// Takes what the other holds and leaves it empty.
     Any(Any&& other) noexcept : operations(std::exchange(other.operations, nullptr))
     {
         if (operations != nullptr)
             operations->move(other.storage, storage);
     }
 
+    /// Holds a copy of what the other holds.
     Any& operator=(const Any& other)
     {
         if (this != &other)
@@ -80,6 +84,7 @@ public:
         return *this;
     }
 
+    /// Takes what the other holds and leaves it empty.
     Any& operator=(Any&& other) noexcept
     {
         if (this == &other)
@@ -93,6 +98,7 @@ public:
 
     ~Any() { Reset(); }
 
+    /// Tells whether nothing is held.
     [[nodiscard]] bool IsEmpty() const noexcept { return operations == nullptr; }
 
     /// The type of the held value; `typeid(void)`, the type of nothing, when empty.
@@ -121,6 +127,7 @@ public:
         return static_cast<const T*>(operations->get(storage));
     }
 
+    /// Equal as the class describes.
     friend bool operator==(const Any& left, const Any& right)
     {
         if (left.operations == nullptr || right.operations == nullptr)

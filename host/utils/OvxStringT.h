@@ -19,24 +19,34 @@ class STYLEPROPERTIES_HOST_API OvxWideString
 public:
     OvxWideString() = default;
 
+    /// A copy of a text that ends with a zero, and is not null.
     OvxWideString(const wchar_t* literal) : text(literal) {}
 
+    /// A copy of the text.
     OvxWideString(OvxStringViewT view) : text(view) {}
 
+    /// A copy of the text.
     OvxWideString(std::wstring_view view) : text(view) {}
 
+    /// Takes the text.
     OvxWideString(std::wstring source) : text(static_cast<std::wstring&&>(source)) {}
 
+    /// Tells whether there is no character.
     [[nodiscard]] bool empty() const noexcept { return text.empty(); }
 
+    /// The number of characters.
     [[nodiscard]] std::size_t size() const noexcept { return text.size(); }
 
+    /// The characters with a zero behind them; valid until the text changes.
     [[nodiscard]] const wchar_t* c_str() const noexcept { return text.c_str(); }
 
+    /// The characters as a standard text; valid as long as this text.
     [[nodiscard]] const std::wstring& Wide() const noexcept { return text; }
 
+    /// A view of the text; valid until it changes.
     operator OvxStringViewT() const noexcept { return OvxStringViewT(text); }
 
+    /// Adds a text at the end.
     OvxWideString& operator+=(OvxStringViewT tail);
 
     /// Replaces every occurrence of `from`, left to right, never looking at what it inserted.
@@ -63,32 +73,38 @@ public:
     [[nodiscard]] static OvxWideString FormatMessageInserts(OvxStringViewT pattern,
                                                             std::initializer_list<OvxWideString> inserts);
 
+    /// Equal character by character.
     friend bool operator==(const OvxWideString& left, const OvxWideString& right) noexcept
     {
         return left.text == right.text;
     }
 
+    /// Equal character by character.
     friend bool operator==(const OvxWideString& left, OvxStringViewT right) noexcept
     {
         return std::wstring_view(left.text) == std::wstring_view(right);
     }
 
+    /// Equal character by character.
     // One for each standard text, since each converts to this one and to the view alike.
     friend bool operator==(const OvxWideString& left, const std::wstring& right) noexcept
     {
         return left.text == right;
     }
 
+    /// Equal character by character.
     friend bool operator==(const OvxWideString& left, std::wstring_view right) noexcept
     {
         return left.text == right;
     }
 
+    /// Equal character by character.
     friend bool operator==(const OvxWideString& left, const wchar_t* right) noexcept
     {
         return left.text == right;
     }
 
+    /// By the numbers of the characters, as dictionaries do.
     friend std::strong_ordering operator<=>(const OvxWideString& left, const OvxWideString& right) noexcept
     {
         return left.text <=> right.text;
@@ -104,9 +120,11 @@ using OvxStringT = OvxWideString;
 /// Joins two texts into a new one.
 [[nodiscard]] STYLEPROPERTIES_HOST_API OvxStringT operator+(OvxStringViewT left, OvxStringViewT right);
 
+/// Hashes a text as a standard text is hashed.
 template <>
 struct std::hash<OvxWideString>
 {
+    /// The same for equal texts.
     std::size_t operator()(const OvxWideString& text) const noexcept
     {
         return std::hash<std::wstring>()(text.Wide());

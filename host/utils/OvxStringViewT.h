@@ -16,7 +16,9 @@ public:
 
     constexpr OvxStringViewT() = default;
 
+    /// Views what the other views.
     constexpr OvxStringViewT(std::wstring_view view) : std::wstring_view(view) {}
 
+    /// Views the text; valid until it changes.
     OvxStringViewT(const std::wstring& text) : std::wstring_view(text) {}
 };

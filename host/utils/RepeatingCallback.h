@@ -29,10 +29,13 @@ public:
     {
     }
 
+    /// Calls `function`; an empty one makes an empty callback.
     explicit RepeatingCallback(std::function<Result(Arguments...)> function) : call(std::move(function)) {}
 
+    /// Tells whether there is something to call.
     explicit operator bool() const noexcept { return static_cast<bool>(call); }
 
+    /// Makes the call.
     Result operator()(Arguments... arguments) const { return call(std::forward<Arguments>(arguments)...); }
 
 private:

@@ -20,18 +20,21 @@ class RepeatingCallbackMemento
 public:
     RepeatingCallbackMemento() = default;
 
+    /// Keeps a callback without arguments.
     template <class Result>
     explicit RepeatingCallbackMemento(RepeatingCallback<Result()> callback)
         : bound(std::make_shared<const Bound<Result>>(std::move(callback)))
     {
     }
 
+    /// Keeps a callback with one argument.
     template <class Result, class Argument>
     explicit RepeatingCallbackMemento(RepeatingCallback<Result(Argument)> callback)
         : bound(std::make_shared<const Bound<Result, Argument>>(std::move(callback)))
     {
     }
 
+    /// Tells whether none is kept.
     [[nodiscard]] bool IsEmpty() const noexcept { return bound == nullptr; }
 
     /// The kept callback, when it has this very signature; null otherwise. Borrowed from the memento.

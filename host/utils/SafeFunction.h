@@ -36,6 +36,7 @@ public:
                 (*locked)();
         }
 
+        /// That of the original; 0 without one.
         [[nodiscard]] Token GetToken() const noexcept { return token; }
 
     private:
@@ -45,6 +46,7 @@ public:
         Token token = 0;
     };
 
+    /// The original, which owns the call.
     explicit basic_safe_function(std::function<void()> call)
         : body(std::make_shared<std::function<void()>>(std::move(call)))
     {
@@ -53,8 +55,10 @@ public:
     basic_safe_function(const basic_safe_function&) = delete;
     basic_safe_function& operator=(const basic_safe_function&) = delete;
 
+    /// Names this one among those that live.
     [[nodiscard]] Token GetToken() const noexcept { return reinterpret_cast<Token>(body.get()); }
 
+    /// A copy that may be called for as long as this one lives, and does nothing after it.
     [[nodiscard]] Shared Share() const
     {
         Shared shared;

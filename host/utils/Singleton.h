@@ -36,8 +36,10 @@ public:
     /// blocks nothing: a later GetInstance makes a fresh instance. Creates nothing.
     static void ReleaseInstance(bool final);
 
+    /// Makes the data, by the code of this module.
     static T* CreateInstance() { return new T; }
 
+    /// Ends the data, by the code of this module.
     static void DeleteInstance(T* instance) { delete instance; }
 
     /// Arranges, once for each module, that StaticFinalizer runs when the module goes.

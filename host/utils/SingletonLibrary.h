@@ -13,7 +13,9 @@ namespace OvxUtils
 /// What the process keeps for one singleton type: the shared data and who must be asked to end it.
 struct SingletonEntry
 {
+    /// What ends the data.
     using Deleter = void (*)(void* data);
+    /// What names a module: an operation that each has for itself.
     using Finalizer = void (*)();
 
     ThreadLock lock; ///< Held while the data is being made.

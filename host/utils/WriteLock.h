@@ -11,6 +11,7 @@ namespace OvxUtils
 class [[nodiscard]] WriteLock
 {
 public:
+    /// Waits until nobody else holds `lock`, and takes it.
     explicit WriteLock(ThreadLock& lock) : held(lock.mutex) {}
 
 private:

@@ -10,8 +10,10 @@
 class STYLEPROPERTIES_HOST_API WXPath
 {
 public:
+    /// Keeps the expression as it is.
     explicit WXPath(OvxStringT xpath) : expression(std::move(xpath)) {}
 
+    /// The expression as it was given.
     [[nodiscard]] const OvxStringT& GetExpression() const noexcept { return expression; }
 
 private:

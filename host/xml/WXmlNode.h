@@ -19,8 +19,10 @@ public:
     /// An invalid handle: no element.
     WXmlNode() = default;
 
+    /// Tells whether the handle refers to an element.
     [[nodiscard]] bool IsValid() const noexcept { return element != nullptr; }
 
+    /// The name of the element.
     [[nodiscard]] OvxStringT GetName() const;
 
     /// Adds an element after the last child.

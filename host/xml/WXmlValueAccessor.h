@@ -16,11 +16,16 @@ public:
     /// Writes a text. The value is left out when it equals a `fallback` that is not empty; with both empty,
     /// an empty value is written.
     void SetString(const OvxStringT& value, const OvxStringT& fallback = OvxStringT());
+    /// Writes "true" or "false".
     void SetBool(bool value);
+    /// Writes the number in decimal.
     void SetInt(int value);
 
+    /// The text of the value.
     [[nodiscard]] OvxStringT GetString(const OvxStringT& fallback = OvxStringT()) const;
+    /// True for "true", false for "false".
     [[nodiscard]] bool GetBool(bool fallback = false) const;
+    /// The number that the whole text is.
     [[nodiscard]] int GetInt(int fallback = 0) const;
 
 private:
