@@ -5,6 +5,9 @@ readonly BUILD_PACKAGES=(cmake g++ ninja-build pkg-config libpugixml-dev libzip-
 readonly TEST_PACKAGES=(libgtest-dev libgmock-dev)
 readonly CHECK_PACKAGES=(clang clang-tidy clang-format libclang-rt-14-dev)
 readonly COVERAGE_PACKAGES=(gcovr)
+readonly DOCUMENTATION_PACKAGES=(doxygen)
+# What the installed tree and the packages are tried with.
+readonly INSTALL_PACKAGES=(debootstrap dpkg-dev file bash-completion fish zsh)
 
 # as_root COMMAND...: runs it with the rights that a package manager needs.
 as_root()

@@ -65,6 +65,7 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
 target_sources(styleproperties_panels PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
     panels/PanelDatasource.h
     panels/PanelRegistration.h
+    panels/PanelRow.h
     panels/PresetSubscription.h
     panels/SourceGroup.h
     panels/ValueOrigin.h)
@@ -75,10 +76,12 @@ target_sources(styleproperties_workbench PUBLIC FILE_SET HEADERS BASE_DIRS ${PRO
     apps/workbench/DrawingStyles.h
     apps/workbench/EditError.h
     apps/workbench/Editor.h
+    apps/workbench/IDialogAnswers.h
     apps/workbench/LibraryIntroduction.h
     apps/workbench/NamedStyleEditor.h
     apps/workbench/Panel.h
     apps/workbench/PanelDescription.h
+    apps/workbench/PanelDialogs.h
     apps/workbench/PanelFolder.h
     apps/workbench/PanelReading.h
     apps/workbench/Report.h
@@ -86,6 +89,8 @@ target_sources(styleproperties_workbench PUBLIC FILE_SET HEADERS BASE_DIRS ${PRO
     apps/workbench/SelectionSearch.h
     apps/workbench/Selector.h
     apps/workbench/Session.h
+    apps/workbench/StyleList.h
+    apps/workbench/StylePick.h
     apps/workbench/TargetHandover.h
     apps/workbench/UsageError.h)
 

@@ -5,12 +5,10 @@
 #include "panels/PanelDatasource.h"
 #include "panels/PanelRegistration.h"
 
-#include <array>
-
 namespace
 {
 
-constexpr std::array kRows{Panels::PanelRow{L"TintColor", L"color"}};
+constexpr auto kRows = Panels::Rows({{L"TintColor", L"color"}});
 
 } // namespace
 
