@@ -32,7 +32,7 @@ OpenDocument drawings.")
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libstyleproperties-dev)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "libstyleproperties0 (= ${PROJECT_VERSION}), libpugixml-dev")
-set(CPACK_DEBIAN_DEV_PACKAGE_SUGGESTS "styleprops, cmake, pkg-config")
+set(CPACK_DEBIAN_DEV_PACKAGE_SUGGESTS "styleprops, cmake, pkg-config, libgmock-dev")
 set(CPACK_DEBIAN_DEV_DESCRIPTION
     "What one needs to write a panel, a host or a program with the library:
 headers, static libraries, a CMake package and pkg-config files.")

@@ -45,8 +45,8 @@ struct PanelRow
             RowMistake::TheIdentifierOfARowHoldsABlankOrAComma();
     }
 
-    OvxStringViewT property;
-    OvxStringViewT identifier;
+    OvxStringViewT property;   ///< A constant of the panel's module, as is the next.
+    OvxStringViewT identifier; ///< Never empty, nor is the other.
 
 private:
     static consteval bool IsLetterOrDigit(wchar_t character)
