@@ -151,6 +151,9 @@ std::string WhyNothing(const Editor::Workings& workings, const PickedEntry& pick
         return "default styles inherit from nothing";
     if (dialogEnd == DialogEnd::GivenUp)
         return "no style was chosen";
+    if (picked.name.empty() && !firstParent.empty())
+        return "the first target inherits from " + Quoted(firstParent) +
+               " as a whole, and from no style that this panel lists";
     if (picked.name.empty())
         return "the first target inherits from no style";
     if (picked.entry.styleName == firstParent || picked.name == firstParent)
