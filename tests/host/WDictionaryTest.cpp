@@ -18,6 +18,7 @@ public:
 
     Counted(const Counted&) = delete;
     Counted& operator=(const Counted&) = delete;
+
     virtual ~Counted() { --count; }
 
 private:
