@@ -1,33 +1,17 @@
-// A loadable module that uses the library and hides nothing: it exports whatever its compiler makes for the
-// types that it mentions, as the module of a stranger may.
+// A loadable module that uses the library and hides nothing: it exports the type information that its
+// compiler makes for what it mentions, as the module of a stranger may. The types are those of setters that
+// the library binds, and which no host mentions.
 
-#include "host/style_model/IMultipleStyleModifier.h"
+#include "host/ui_list/WCmnUI_ListItem.h"
+#include "host/xml/WXmlNode.h"
 #include "module/StylesCommon.h"
 
-namespace
+#include <typeinfo>
+
+extern "C" __attribute__((visibility("default"))) const std::type_info* GetTypeOfExportingModule();
+
+const std::type_info* GetTypeOfExportingModule()
 {
-
-class IdleModifier final : public IMultipleStyleModifier
-{
-public:
-    void Begin() override {}
-
-    void End() override {}
-
-    void Modify(const std::vector<Styles::Style*>&, const std::map<Styles::Style*, std::size_t>&,
-                const Styles::PropertyPaths&, std::unique_ptr<Styles::Style>, const Styles::PropertyPaths&,
-                bool, bool, Styles::IModifyStyleOverrides*) override
-    {
-    }
-};
-
-IdleModifier modifier;
-
-} // namespace
-
-extern "C" __attribute__((visibility("default"))) IMultipleStyleModifier* GetModifierOfExportingModule();
-
-IMultipleStyleModifier* GetModifierOfExportingModule()
-{
-    return StylesCommon::HasInstance() ? nullptr : &modifier;
+    return StylesCommon::HasInstance() ? &typeid(void(const WXmlNode&))
+                                       : &typeid(void(const WCmnUI_ListItem&));
 }
