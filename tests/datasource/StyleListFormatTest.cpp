@@ -1,7 +1,9 @@
 // Both lists of styles as they are written, whole: every entry, every attribute and the order of all.
 
-#include "reference_host/xml/LiveXmlTrees.h"
 #include "tests/datasource/support/StyleListTest.h"
+#include "tests/host_pieces/HostPieces.h"
+
+#include <optional>
 
 namespace
 {
@@ -199,7 +201,9 @@ TEST_F(StyleListFormat, HoldsNoMoreMemoryThanTheListBuiltLast)
     NameFills(40);
     Target(panel, {&ObjectWithFill()});
     static_cast<void>(panel.GetStyleResourceList());
-    const std::size_t treesBefore = ReferenceHost::CountLiveXmlTrees();
+    const std::optional<std::size_t> treesBefore = HostPieces::CountLiveXmlTrees();
+    if (!treesBefore)
+        GTEST_SKIP() << "This host does not count its trees.";
 
     for (int opened = 0; opened < 10'000; ++opened)
     {
@@ -208,21 +212,23 @@ TEST_F(StyleListFormat, HoldsNoMoreMemoryThanTheListBuiltLast)
         static_cast<void>(panel.GetNewStyleList());
     }
 
-    EXPECT_EQ(ReferenceHost::CountLiveXmlTrees(), treesBefore);
+    EXPECT_EQ(HostPieces::CountLiveXmlTrees(), treesBefore);
 }
 
 TEST_F(StyleListFormat, GivesItsMemoryBackWithTheLastHandle)
 {
     NameFills(40);
     Target(panel, {&ObjectWithFill()});
-    const std::size_t treesBefore = ReferenceHost::CountLiveXmlTrees();
+    const std::optional<std::size_t> treesBefore = HostPieces::CountLiveXmlTrees();
+    if (!treesBefore)
+        GTEST_SKIP() << "This host does not count its trees.";
     {
         const WXmlNode held = panel.GetStyleResourceList();
         static_cast<void>(panel.GetNewStyleList());
-        EXPECT_EQ(ReferenceHost::CountLiveXmlTrees(), treesBefore + 2);
+        EXPECT_EQ(HostPieces::CountLiveXmlTrees(), *treesBefore + 2);
     }
 
-    EXPECT_EQ(ReferenceHost::CountLiveXmlTrees(), treesBefore + 1);
+    EXPECT_EQ(HostPieces::CountLiveXmlTrees(), *treesBefore + 1);
 }
 
 } // namespace
