@@ -1,5 +1,6 @@
 // Both lists of styles as they are written, whole: every entry, every attribute and the order of all.
 
+#include "tests/datasource/support/ShownTexts.h"
 #include "tests/datasource/support/StyleListTest.h"
 #include "tests/host_pieces/HostPieces.h"
 
@@ -11,10 +12,14 @@ namespace
 using namespace Styles;
 
 const std::string kRoot = "<placeholderData>";
-const std::string kUncheckedNone = "<itemData type='statusText' styleName='' text='No Style' check='false' "
-                                   "enable='true' guid='' placeholderCommandID='0'>";
-const std::string kCheckedNone = "<itemData type='statusText' styleName='' text='No Style' check='true' "
-                                 "enable='true' guid='' placeholderCommandID='0'>";
+
+/// The entry for no style, as objects have it.
+std::string NoneEntry(const char* check)
+{
+    return "<itemData type='statusText' styleName='' text='" +
+           Describe(ShownTexts::Of(ShownTexts::kNoStyle)) + "' check='" + check +
+           "' enable='true' guid='' placeholderCommandID='0'>";
+}
 
 /// The entries S1 to S9 with the ids 1 to 9, none of them checked.
 const std::string kFirstNine = "<itemData type='statusText' text='S1' styleName='S1' check='false' "
@@ -56,7 +61,9 @@ const std::string kNextEight = "<itemData type='statusText' text='S10' styleName
 
 std::string MoreWithId(const std::string& id)
 {
-    return "<itemData type='statusText' text='More Styles...' styleName='More Styles...' "
+    const std::string more = Describe(ShownTexts::Of(ShownTexts::kMoreStyles));
+    return "<itemData type='statusText' text='" + more + "' styleName='" + more +
+           "' "
            "placeholderCommandID='" +
            id + "'>";
 }
@@ -74,14 +81,14 @@ protected:
 
 TEST_F(StyleListFormat, HasOneEntryForNoNames)
 {
-    EXPECT_EQ(MainList(), kRoot + kCheckedNone);
+    EXPECT_EQ(MainList(), kRoot + NoneEntry("true"));
 }
 
 TEST_F(StyleListFormat, HasAnEntryForOneName)
 {
     NameFills(1);
 
-    EXPECT_EQ(MainList(fills[0]), kRoot + kUncheckedNone +
+    EXPECT_EQ(MainList(fills[0]), kRoot + NoneEntry("false") +
                                       "<itemData type='statusText' text='S1' styleName='S1' check='true' "
                                       "enable='true' guid='' placeholderCommandID='1'>");
 }
@@ -90,7 +97,7 @@ TEST_F(StyleListFormat, HasAnEntryForEachOfEighteenNames)
 {
     NameFills(18);
 
-    EXPECT_EQ(MainList(fills[17]), kRoot + kUncheckedNone + kFirstNine + kNextEight +
+    EXPECT_EQ(MainList(fills[17]), kRoot + NoneEntry("false") + kFirstNine + kNextEight +
                                        "<itemData type='statusText' text='S18' styleName='S18' check='true' "
                                        "enable='true' guid='' placeholderCommandID='18'>");
 }
@@ -99,14 +106,14 @@ TEST_F(StyleListFormat, HasNineEntriesAndAnotherForNineteenNames)
 {
     NameFills(19);
 
-    EXPECT_EQ(MainList(), kRoot + kCheckedNone + kFirstNine + MoreWithId("10"));
+    EXPECT_EQ(MainList(), kRoot + NoneEntry("true") + kFirstNine + MoreWithId("10"));
 }
 
 TEST_F(StyleListFormat, HasTheCurrentStyleBehindNineOfFortyNames)
 {
     NameFills(40);
 
-    EXPECT_EQ(MainList(fills[39]), kRoot + kUncheckedNone + kFirstNine +
+    EXPECT_EQ(MainList(fills[39]), kRoot + NoneEntry("false") + kFirstNine +
                                        "<itemData type='statusText' text='S40' styleName='S40' check='true' "
                                        "enable='true' guid='' placeholderCommandID='10'>" +
                                        MoreWithId("11"));
@@ -119,7 +126,7 @@ TEST_F(StyleListFormat, HasNoFurtherEntryForACurrentStyleAmongTheFirstNine)
     const std::string third = "styleName='S3' check='false'";
     nine.replace(nine.find(third), third.size(), "styleName='S3' check='true'");
 
-    EXPECT_EQ(MainList(fills[2]), kRoot + kUncheckedNone + nine + MoreWithId("10"));
+    EXPECT_EQ(MainList(fills[2]), kRoot + NoneEntry("false") + nine + MoreWithId("10"));
 }
 
 TEST_F(StyleListFormat, LeavesOutDescendantsWithoutAGapInTheIds)
@@ -129,12 +136,13 @@ TEST_F(StyleListFormat, LeavesOutDescendantsWithoutAGapInTheIds)
     NameFills(1);
     Target(panel, {fills[0]});
 
-    EXPECT_EQ(
-        ToText(panel.GetStyleResourceList()),
-        kRoot + "<itemData type='statusText' styleName='' text='No Parent Style' check='true' enable='true' "
-                "guid='' placeholderCommandID='0'>"
-                "<itemData type='statusText' text='S2' styleName='S2' check='false' enable='true' guid='' "
-                "placeholderCommandID='1'>");
+    EXPECT_EQ(ToText(panel.GetStyleResourceList()),
+              kRoot + "<itemData type='statusText' styleName='' text='" +
+                  Describe(ShownTexts::Of(ShownTexts::kNoParent)) +
+                  "' check='true' enable='true' "
+                  "guid='' placeholderCommandID='0'>"
+                  "<itemData type='statusText' text='S2' styleName='S2' check='false' enable='true' guid='' "
+                  "placeholderCommandID='1'>");
 }
 
 TEST_F(StyleListFormat, DoublesEveryAmpersandOfAName)
@@ -142,7 +150,7 @@ TEST_F(StyleListFormat, DoublesEveryAmpersandOfAName)
     NameInSheet(L"A&B &C", styles.OfCategory("ab", FillStyleCategoryName));
 
     EXPECT_EQ(MainList(),
-              kRoot + kCheckedNone +
+              kRoot + NoneEntry("true") +
                   "<itemData type='statusText' text='A&&B &&C' styleName='A&&B &&C' check='false' "
                   "enable='true' guid='' placeholderCommandID='1'>");
 }
@@ -153,7 +161,7 @@ TEST_F(StyleListFormat, ChecksNoEntryWhenTheCurrentStyleHasAnAmpersandBeyondTheL
     Style& both = styles.OfCategory("ab", FillStyleCategoryName);
     NameInSheet(L"A&B", both);
 
-    EXPECT_EQ(MainList(&both), kRoot + kUncheckedNone + kFirstNine + MoreWithId("10"));
+    EXPECT_EQ(MainList(&both), kRoot + NoneEntry("false") + kFirstNine + MoreWithId("10"));
 }
 
 TEST_F(StyleListFormat, OfFurtherStylesHasTheNamesAsTheyAreAndNoChecks)
