@@ -7,7 +7,7 @@ readonly CHECK_PACKAGES=(clang clang-tidy clang-format libclang-rt-14-dev)
 readonly COVERAGE_PACKAGES=(gcovr)
 readonly DOCUMENTATION_PACKAGES=(doxygen)
 # What the installed tree and the packages are tried with.
-readonly INSTALL_PACKAGES=(debootstrap dpkg-dev file bash-completion fish zsh)
+readonly INSTALL_PACKAGES=(debootstrap dpkg-dev file bash-completion fish zsh python3)
 
 # as_root COMMAND...: runs it with the rights that a package manager needs.
 as_root()
