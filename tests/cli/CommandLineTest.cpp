@@ -1,15 +1,15 @@
 #include "apps/cli/CommandLine.h"
 
-#include "apps/workbench/UsageError.h"
+#include "tests/cli/ParsedArguments.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using Cli::Command;
 using Cli::InformationText;
 using Cli::InspectOptions;
-using Cli::ParseCommandLine;
 using Cli::StylesOptions;
+using CliTests::ErrorOf;
+using CliTests::Parse;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -18,28 +18,9 @@ using testing::StartsWith;
 namespace
 {
 
-Command Parse(std::vector<const char*> arguments)
-{
-    arguments.insert(arguments.begin(), "styleprops");
-    return ParseCommandLine(static_cast<int>(arguments.size()), arguments.data());
-}
-
 std::string HelpFor(const std::vector<const char*>& arguments)
 {
     return std::get<InformationText>(Parse(arguments)).text;
-}
-
-std::string ErrorOf(const std::vector<const char*>& arguments)
-{
-    try
-    {
-        static_cast<void>(Parse(arguments));
-    }
-    catch (const Workbench::UsageError& error)
-    {
-        return error.what();
-    }
-    return "no error";
 }
 
 } // namespace

@@ -1,26 +1,20 @@
 #include "apps/cli/CommandLine.h"
 
-#include "apps/workbench/UsageError.h"
+#include "tests/cli/ParsedArguments.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-using Cli::Command;
 using Cli::EditOptions;
-using Cli::ParseCommandLine;
 using Cli::ScriptOptions;
+using CliTests::ErrorOf;
+using CliTests::Parse;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
 namespace
 {
-
-Command Parse(std::vector<const char*> arguments)
-{
-    arguments.insert(arguments.begin(), "styleprops");
-    return ParseCommandLine(static_cast<int>(arguments.size()), arguments.data());
-}
 
 EditOptions ParseEdit(const std::vector<const char*>& arguments)
 {
@@ -32,19 +26,6 @@ template <class Kind>
 Kind CommandOf(const std::vector<const char*>& arguments)
 {
     return std::get<Kind>(ParseEdit(arguments).command);
-}
-
-std::string ErrorOf(const std::vector<const char*>& arguments)
-{
-    try
-    {
-        static_cast<void>(Parse(arguments));
-    }
-    catch (const Workbench::UsageError& error)
-    {
-        return error.what();
-    }
-    return "no error";
 }
 
 } // namespace

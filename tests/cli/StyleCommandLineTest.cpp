@@ -3,15 +3,16 @@
 #include "apps/cli/CommandLine.h"
 #include "apps/cli/EditScript.h"
 #include "apps/workbench/UsageError.h"
+#include "tests/cli/ParsedArguments.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using Cli::AskOptions;
-using Cli::Command;
 using Cli::EditOptions;
 using Cli::InformationText;
-using Cli::ParseCommandLine;
+using CliTests::ErrorOf;
+using CliTests::Parse;
 using testing::AllOf;
 using testing::EndsWith;
 using testing::HasSubstr;
@@ -25,12 +26,6 @@ using Workbench::StylePick;
 
 namespace
 {
-
-Command Parse(std::vector<const char*> arguments)
-{
-    arguments.insert(arguments.begin(), "styleprops");
-    return ParseCommandLine(static_cast<int>(arguments.size()), arguments.data());
-}
 
 AskOptions ParseAsk(const std::vector<const char*>& arguments)
 {
@@ -49,19 +44,6 @@ StylePick PickOf(std::vector<const char*> words)
     words.insert(words.begin(), {"restyle", "a"});
     words.insert(words.end(), {"--panel", "style", "--dry-run"});
     return std::get<Cli::RestyleCommand>(std::get<EditOptions>(Parse(words)).command).pick;
-}
-
-std::string ErrorOf(const std::vector<const char*>& arguments)
-{
-    try
-    {
-        static_cast<void>(Parse(arguments));
-    }
-    catch (const Workbench::UsageError& error)
-    {
-        return error.what();
-    }
-    return "no error";
 }
 
 std::string HelpFor(const std::vector<const char*>& arguments)
