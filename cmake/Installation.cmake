@@ -129,6 +129,12 @@ foreach(name styleproperties styleproperties-reference-host styleproperties-pane
     install(FILES ${PROJECT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 endforeach()
 
+# The texts by their keys, for whoever writes a host: here they are compiled in.
+install(FILES
+    ${PROJECT_SOURCE_DIR}/reference_host/resources/catalogues/en.catalogue
+    ${PROJECT_SOURCE_DIR}/reference_host/resources/catalogues/de.catalogue
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/styleproperties/catalogues COMPONENT dev)
+
 # The programs.
 if(TARGET styleprops)
     set_target_properties(styleprops PROPERTIES INSTALL_RPATH "${origin}/${librariesFromPrograms}")
