@@ -33,7 +33,7 @@ public:
     {
     }
 
-    PickedEntry operator()(const PickNone&) const { return {main.entries.at(0), {}}; }
+    PickedEntry operator()(const PickNone&) const { return {Find(main, 0), {}}; }
 
     PickedEntry operator()(const PickById& pick) const
     {
