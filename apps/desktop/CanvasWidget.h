@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class QMouseEvent;
+class QPaintEvent;
+
+namespace ReferenceHost
+{
+class DrawingObject;
+}
+
+namespace Workbench
+{
+class Session;
+}
+
+namespace Desktop
+{
+
+/// Shows one page of a session's drawing, and lets a person select objects on it.
+///
+/// Reads the drawing and never changes it.
+class CanvasWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CanvasWidget(QWidget* parent = nullptr);
+    ~CanvasWidget() override;
+
+    /// Shows the first page of the session's drawing, with nothing selected and the whole page in view; with
+    /// null nothing. Borrowed until the next call.
+    void ShowDrawing(Workbench::Session* session);
+
+    /// Marks these objects as the selected ones, without telling anybody. Groups may be among them; null may
+    /// not. Borrowed until the next call or that of ShowDrawing().
+    void SetSelectedObjects(const std::vector<ReferenceHost::DrawingObject*>& objects);
+
+    /// Draws anew with the styles as they are now; for after each edit, undo and redo.
+    void RefreshStyles();
+
+    /// How many pages the drawing has; none without a drawing.
+    [[nodiscard]] int PageCount() const;
+
+    /// The page that is shown, counted from zero.
+    [[nodiscard]] int CurrentPage() const;
+
+    /// Shows the page of that number, counted from zero; one that there is not is passed over.
+    void SetPage(int page);
+
+    /// Makes everything larger by that factor, or smaller by one below 1, around the middle of the view.
+    void ZoomBy(double factor);
+
+    /// Chooses the size at which the whole page is in view.
+    void ZoomToPage();
+
+signals:
+    /// A person selected other objects, in document order and without groups; perhaps none.
+    void selectionChanged(std::vector<ReferenceHost::DrawingObject*> objects);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct View;
+    std::unique_ptr<View> view; ///< Never null.
+};
+
+} // namespace Desktop
