@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reference_host/document/DrawingObject.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -7,11 +9,6 @@
 
 class QMouseEvent;
 class QPaintEvent;
-
-namespace ReferenceHost
-{
-class DrawingObject;
-}
 
 namespace Workbench
 {

@@ -1,0 +1,136 @@
+#pragma once
+
+#include "apps/workbench/Editor.h"
+#include "apps/workbench/IDialogAnswers.h"
+#include "apps/workbench/PanelFolder.h"
+#include "apps/workbench/Session.h"
+#include "host/utils/OvxStringT.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Desktop
+{
+
+/// The drawing of a window: what is open, what of it is edited, and whether it differs from its file.
+///
+/// There always is a drawing; at first, and where nothing could be opened, it is a blank one that lies in no
+/// file. Tells everybody who listens of what happens to it; what fails is told in words and changes nothing.
+class Document : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Edits = std::function<void(Workbench::Editor&)>;
+
+    /// `answers` is borrowed and outlives this: it is asked what the dialogs of panels ask.
+    Document(Workbench::PanelFolder itsPanels, Workbench::IDialogAnswers& itsAnswers);
+    ~Document() override;
+
+    [[nodiscard]] Workbench::Session& GetSession() const noexcept { return *session; }
+
+    [[nodiscard]] Workbench::Editor& GetEditor() const noexcept { return *editor; }
+
+    /// Where the drawing is saved; empty for one that lies in no file.
+    [[nodiscard]] const std::filesystem::path& GetPath() const noexcept { return path; }
+
+    /// Tells whether the drawing differs from what was opened or saved last.
+    [[nodiscard]] bool IsModified() const;
+
+    /// What was repaired or passed over when the drawing and its panels were loaded.
+    [[nodiscard]] const QStringList& GetWarnings() const noexcept { return warnings; }
+
+    /// Opens a file in place of the drawing. What was not saved is lost; one that cannot be read leaves the
+    /// drawing that is open.
+    ///
+    /// @returns whether it did; if not, failed() told why.
+    bool Open(const std::filesystem::path& file);
+
+    /// Saves the drawing, which lies in that file from then on.
+    ///
+    /// @returns whether it did; if not, failed() told why.
+    bool Save(const std::filesystem::path& target);
+
+    /// Lets `edits` change the drawing. What fails is told; listeners hear of a change in any case, so that
+    /// controls show what is there.
+    ///
+    /// @returns whether nothing failed.
+    bool Edit(const Edits& edits);
+
+    /// Selects what edits are about.
+    bool Select(const OvxStringT& selector);
+
+    /// Selects objects, and the document defaults when there are none.
+    bool SelectObjects(const std::vector<ReferenceHost::DrawingObject*>& objects);
+
+    /// Selects all objects that have this named style.
+    bool SelectUsersOf(const OvxStringT& styleName);
+
+    // Drags
+
+    /// Begins a drag: everything until its end is one step.
+    void BeginDrag();
+
+    /// Changes the drawing as part of the drag; the end tells listeners.
+    void Drag(const Edits& edits);
+
+    /// Ends the drag; without `commit` nothing of it stays. Without a drag nothing happens.
+    void EndDrag(bool commit);
+
+    void Undo();
+    void Redo();
+
+    [[nodiscard]] QString GetUndoName() const;
+    [[nodiscard]] QString GetRedoName() const;
+
+signals:
+    /// Another drawing is open, whose objects and panels are new ones.
+    void opened();
+
+    /// The drawing before is about to go.
+    void closing();
+
+    /// Values, styles or presets may be others now.
+    void changed();
+
+    /// A drag goes on: the drawing looks otherwise.
+    void previewed();
+
+    /// Something else is edited now.
+    void selectionChanged();
+
+    /// The file, or that the drawing differs from it.
+    void fileChanged();
+
+    /// Something that a person may want to know, in words.
+    void noted(const QString& message);
+
+    /// What could not be done, and why.
+    void failed(const QString& message);
+
+private:
+    bool Attempt(const std::function<void()>& work);
+    void Begin(std::unique_ptr<Workbench::Session> newSession, const std::filesystem::path& file);
+    void End();
+    void Settle();
+    void SelectInForce(const OvxStringT& selector);
+
+    Workbench::PanelFolder panels;
+    Workbench::IDialogAnswers& answers;
+    std::unique_ptr<Workbench::Session> session; ///< Never null between calls.
+    std::unique_ptr<Workbench::Editor> editor;   ///< Never null between calls; ends before the session.
+    std::filesystem::path path;
+    QStringList warnings;
+    std::optional<std::size_t> savedStep; ///< How many steps led to what the file holds; none for no number.
+    std::size_t lastStep = 0;
+};
+
+} // namespace Desktop

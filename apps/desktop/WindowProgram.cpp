@@ -1,0 +1,125 @@
+#include "apps/desktop/WindowProgram.h"
+
+#include "apps/desktop/MainWindow.h"
+#include "apps/desktop/WindowOptions.h"
+#include "apps/desktop/WindowText.h"
+#include "apps/workbench/PanelFolder.h"
+#include "reference_host/resources/Language.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QPixmap>
+
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace Desktop
+{
+namespace
+{
+
+constexpr int kBadInput = 1;
+constexpr int kWrongUsage = 2;
+
+void WriteLine(std::ostream& stream, const QString& text)
+{
+    stream << text.toStdString() << '\n';
+}
+
+/// A picture of the window can be made where there is no screen to show it on.
+void NeedNoScreenForPictures(int argumentCount, const char* const* arguments)
+{
+    const bool hasScreen =
+        qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (hasScreen || qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        return;
+    for (int index = 1; index < argumentCount; ++index)
+    {
+        const std::string_view argument = arguments[index];
+        if (argument.starts_with("--screenshot") || argument == "--help" || argument == "--version")
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+}
+
+/// Puts the texts of the person's language in force, or of the one that was asked for.
+bool ChooseLanguage(const QString& asked)
+{
+    const std::string language = asked.isEmpty()
+                                     ? ReferenceHost::FindLanguageFor(QLocale().name().toStdString())
+                                     : asked.toStdString();
+    QLocale::setDefault(QLocale(QString::fromStdString(language)));
+    return ReferenceHost::SetLanguage(language);
+}
+
+/// Opens what the options name. Without anybody at the window, what fails goes to the terminal.
+bool Begin(MainWindow& window, const WindowOptions& options)
+{
+    QObject::connect(&window.GetDocument(), &Document::failed,
+                     [](const QString& message) { WriteLine(std::cerr, message); });
+    if (!options.file.isEmpty() && !window.OpenFile(PathFromQString(options.file)))
+        return false;
+    return options.selector.isEmpty() || window.GetDocument().Select(FromQString(options.selector));
+}
+
+int WriteScreenshot(MainWindow& window, const QString& file)
+{
+    window.show();
+    QApplication::processEvents();
+    if (window.grab().save(file))
+        return 0;
+    WriteLine(std::cerr,
+              file +
+                  QLatin1String(": cannot be written; expected a place for a picture, such as window.png"));
+    return kBadInput;
+}
+
+int Run(const WindowOptions& options)
+{
+    if (!ChooseLanguage(options.language))
+    {
+        WriteLine(std::cerr, QLatin1String("there are no texts in the language \"") + options.language +
+                                 QLatin1String("\"; expected en or de"));
+        return kWrongUsage;
+    }
+    std::optional<std::filesystem::path> chosen;
+    if (!options.panelFolder.isEmpty())
+        chosen = PathFromQString(options.panelFolder);
+    MainWindow window(Workbench::ReadPanelFolder(Workbench::FindPanelFolder(chosen)));
+    const bool isAttended = options.screenshot.isEmpty();
+    window.SetAttended(isAttended);
+    const bool hasBegun = Begin(window, options);
+    if (!isAttended)
+        return hasBegun ? WriteScreenshot(window, options.screenshot) : kBadInput;
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int RunWindow(int argumentCount, char** arguments)
+{
+    NeedNoScreenForPictures(argumentCount, arguments);
+    QApplication application(argumentCount, arguments);
+    QApplication::setApplicationName(QStringLiteral("styleprops-desktop"));
+    const WindowCommand command = ReadWindowOptions(QApplication::arguments());
+    if (!command.options)
+    {
+        WriteLine(command.status == 0 ? std::cout : std::cerr, command.text);
+        return command.status;
+    }
+    try
+    {
+        return Run(*command.options);
+    }
+    catch (const std::exception& error)
+    {
+        WriteLine(std::cerr, QString::fromUtf8(error.what()));
+        return kBadInput;
+    }
+}
+
+} // namespace Desktop
