@@ -1,0 +1,82 @@
+#include "tests/desktop/OpenWindow.h"
+#include "tests/workbench/EditorFixture.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+
+using DesktopTests::DialogAnswer;
+using DesktopTests::OpenWindow;
+using WorkbenchTests::FourBoxes;
+
+namespace
+{
+
+/// Enters a name and accepts.
+void NameIt(QDialog& dialog, const QString& name)
+{
+    dialog.findChild<QLineEdit*>()->setText(name);
+    QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+}
+
+struct PresetMenu : testing::Test
+{
+    OpenWindow open{FourBoxes()};
+
+    void Add(const QString& name)
+    {
+        const DialogAnswer answer([&](QDialog& dialog) { NameIt(dialog, name); });
+        open.Choose("fill.presets", "Add Preset...");
+    }
+};
+
+} // namespace
+
+TEST_F(PresetMenu, OffersAPresetThatIsAdded)
+{
+    open.Select(L"id:1/2");
+
+    Add(QStringLiteral("Warm & Bright"));
+
+    EXPECT_EQ(open.Entries("fill.presets"), QStringList({"Warm & Bright", "Add Preset...", "Delete Preset"}));
+}
+
+TEST_F(PresetMenu, AppliesAPreset)
+{
+    open.Select(L"id:1/2");
+    Add(QStringLiteral("Warm"));
+    open.Select(L"id:1/1");
+
+    open.Choose("fill.presets", "Warm");
+
+    EXPECT_EQ(open.Shown("fill.color"), "#ff0000");
+}
+
+TEST_F(PresetMenu, ReplacesAPresetAfterAQuestion)
+{
+    open.Select(L"id:1/2");
+    Add(QStringLiteral("Warm"));
+    open.Select(L"id:1/3");
+    {
+        const DialogAnswer answers(
+            {[](QDialog& dialog) { NameIt(dialog, QStringLiteral("Warm")); },
+             [](QDialog& dialog) { static_cast<QMessageBox&>(dialog).button(QMessageBox::Yes)->click(); }});
+        open.Choose("fill.presets", "Add Preset...");
+    }
+
+    open.Select(L"id:1/2");
+    open.Choose("fill.presets", "Warm");
+
+    EXPECT_EQ(open.Shown("fill.color"), "#00aa00");
+}
+
+TEST_F(PresetMenu, AddsNothingWhenTheDialogIsGivenUp)
+{
+    open.Select(L"id:1/2");
+    const DialogAnswer answer([](QDialog& dialog) { dialog.reject(); });
+
+    open.Choose("fill.presets", "Add Preset...");
+
+    EXPECT_TRUE(open.GetConfiguration().PresetFiles().empty());
+}
