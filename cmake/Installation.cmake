@@ -38,6 +38,9 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
     reference_host/document/DrawingPage.h
     reference_host/document/PropertyMapping.h
     reference_host/document/TextUnit.h
+    reference_host/document/picture/Definitions.h
+    reference_host/document/picture/DrawingPicture.h
+    reference_host/document/picture/Geometry.h
     reference_host/history/History.h
     reference_host/preset_store/PresetPicture.h
     reference_host/preset_store/PresetReports.h

@@ -3,6 +3,7 @@
 #include "reference_host/document/DrawingData.h"
 #include "reference_host/document/DrawingReader.h"
 #include "reference_host/document/StyleReader.h"
+#include "reference_host/document/picture/PictureReader.h"
 #include "reference_host/style_model/CategoryRegistry.h"
 #include "reference_host/style_model/StyleHosting.h"
 
@@ -157,6 +158,11 @@ std::optional<std::vector<OvxStringT>> Drawing::GetDefinedNames(const Styles::Pr
     }
     std::ranges::sort(names);
     return names;
+}
+
+DrawingPicture Drawing::ReadPicture() const
+{
+    return PictureReader(*data).Read();
 }
 
 const std::vector<Styles::PropertyKey>& Drawing::GetCategories() const noexcept

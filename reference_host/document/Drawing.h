@@ -22,6 +22,7 @@ namespace ReferenceHost
 {
 
 struct DrawingData;
+struct DrawingPicture;
 class History;
 
 /// How Drawing::Save() goes about it.
@@ -134,6 +135,12 @@ public:
     [[nodiscard]] std::optional<std::vector<OvxStringT>>
     GetDefinedNames(const Styles::PropertyKey& category, const Styles::PropertyKey& key,
                     const OvxStringT& sheetName = {}) const;
+
+    /// Reads what the drawing looks like apart from its styles: outlines, texts, pictures and definitions, as
+    /// they lie in the file. Takes about as long as opening the drawing did.
+    ///
+    /// @throws DocumentError
+    [[nodiscard]] DrawingPicture ReadPicture() const;
 
     /// The categories that every whole style has a substyle of: fill, outline, paragraph, character, then
     /// those of the extensions in the order given.
