@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # include-arrows.sh ROOT: includes point one way only. Prints every include that does not, and fails.
 #
-#   apps           sees everything, but the style model only where targets are handed in; the editor of named
-#                  styles speaks of names alone and is for all
+#   apps           sees everything, but the style model only where targets are handed in and where looks are
+#                  read; the editor of named styles speaks of names alone and is for all
 #   panels         sees the library, host/ and the standard library
 #   the library    (module, datasource, presets) sees itself, host/ and the standard library
 #   reference_host sees itself, host/ and third-party libraries
@@ -33,7 +33,7 @@ BEGIN {
     sees["panels"] = "panels " library
     sees["apps"] = "apps reference_host panels " library
     mayUseThirdParties["reference_host"] = mayUseThirdParties["apps"] = 1
-    handover = "^apps/workbench/TargetHandover\\.(h|cpp)$"
+    handover = "^apps/workbench/(TargetHandover|ShapeLooks)\\.(h|cpp)$"
     namesAlone = "host/style_model/IStylesCollectionEditor.h"
 }
 
@@ -48,7 +48,7 @@ function checkOwn(from, path,    to) {
     else if (!contains(sees[from], to))
         complain(from "/ must not see " to "/")
     else if (from == "apps" && path ~ /^(host|reference_host)\/style_model\// && FILENAME !~ handover && path != namesAlone)
-        complain("only apps/workbench/TargetHandover may see the style model")
+        complain("only apps/workbench/TargetHandover and ShapeLooks may see the style model")
 }
 
 function checkForeign(from, path) {
