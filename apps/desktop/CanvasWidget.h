@@ -20,6 +20,10 @@ namespace Desktop
 
 /// Shows one page of a session's drawing, and lets a person select objects on it.
 ///
+/// A click selects the topmost object and one with Shift adds or takes away; dragging over empty space
+/// selects what lies wholly in the rectangle. The wheel, the middle button and dragging with the space bar
+/// move the page, the wheel with Ctrl makes it larger and smaller.
+///
 /// Reads the drawing and never changes it.
 class CanvasWidget : public QWidget
 {
@@ -31,6 +35,8 @@ public:
 
     /// Shows the first page of the session's drawing, with nothing selected and the whole page in view; with
     /// null nothing. Borrowed until the next call.
+    ///
+    /// @throws ReferenceHost::DocumentError when the file can no longer be read; nothing is shown then.
     void ShowDrawing(Workbench::Session* session);
 
     /// Marks these objects as the selected ones, without telling anybody. Groups may be among them; null may
@@ -55,16 +61,39 @@ public:
     /// Chooses the size at which the whole page is in view.
     void ZoomToPage();
 
+    /// Where a place of the page, in hundredths of a millimetre, is in the widget.
+    [[nodiscard]] QPointF ToWidget(QPointF onPage) const;
+
 signals:
     /// A person selected other objects, in document order and without groups; perhaps none.
     void selectionChanged(std::vector<ReferenceHost::DrawingObject*> objects);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    struct View;
-    std::unique_ptr<View> view; ///< Never null.
+    struct State;
+
+    void Repaint();
+    void MoveBy(QPointF pixels);
+    void ZoomAt(QPointF fixed, double factor);
+    void ClickAt(QPointF place, bool isAdding);
+    void EndBand();
+    void SetSpace(bool isHeld);
+
+    /// Selects what a person chose, and tells of it when it is something else than before.
+    void Choose(const std::vector<ReferenceHost::DrawingObject*>& objects);
+
+    std::unique_ptr<State> state; ///< Never null.
 };
 
 } // namespace Desktop

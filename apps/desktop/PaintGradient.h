@@ -1,0 +1,16 @@
+#pragma once
+
+#include "reference_host/document/picture/Definitions.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QRectF>
+
+namespace Desktop
+{
+
+/// Fills a path with a gradient that is fitted to `box`. May leave the painter clipped.
+void PaintGradient(QPainter& painter, const QPainterPath& path, const QRectF& box,
+                   const ReferenceHost::GradientDefinition& gradient);
+
+} // namespace Desktop
