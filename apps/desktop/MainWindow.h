@@ -1,7 +1,7 @@
 #pragma once
 
 #include "apps/desktop/Document.h"
-#include "apps/desktop/WindowDialogs.h"
+#include "apps/desktop/dialogs/WindowDialogs.h"
 #include "apps/workbench/PanelFolder.h"
 
 #include <QMainWindow>

@@ -1,9 +1,9 @@
 // How the window is put together: docks, menus and what listens to what.
 
-#include "apps/desktop/CanvasWidget.h"
+#include "apps/desktop/canvas/CanvasWidget.h"
 #include "apps/desktop/EditedBox.h"
 #include "apps/desktop/MainWindow.h"
-#include "apps/desktop/PanelStack.h"
+#include "apps/desktop/sections/PanelStack.h"
 #include "apps/desktop/WindowText.h"
 #include "reference_host/resources/Language.h"
 

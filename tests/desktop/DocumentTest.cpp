@@ -1,6 +1,6 @@
 #include "apps/desktop/Document.h"
 
-#include "apps/desktop/WindowDialogs.h"
+#include "apps/desktop/dialogs/WindowDialogs.h"
 #include "tests/desktop/OpenWindow.h"
 #include "tests/workbench/EditorFixture.h"
 

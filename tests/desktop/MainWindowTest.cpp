@@ -1,4 +1,4 @@
-#include "apps/desktop/CanvasWidget.h"
+#include "apps/desktop/canvas/CanvasWidget.h"
 #include "tests/desktop/OpenWindow.h"
 #include "tests/workbench/EditorFixture.h"
 

@@ -1,6 +1,6 @@
 #include "tests/desktop/OpenWindow.h"
 
-#include "apps/desktop/RowControl.h"
+#include "apps/desktop/rows/RowControl.h"
 #include "apps/desktop/WindowText.h"
 #include "reference_host/resources/Language.h"
 

@@ -1,0 +1,65 @@
+#include "apps/desktop/canvas/CanvasBackground.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace Desktop
+{
+
+void CanvasBackground::Forget()
+{
+    pixmap = QPixmap();
+}
+
+bool CanvasBackground::MoveBy(QPointF pixels)
+{
+    const QPointF onScreen = pixels * pixmap.devicePixelRatio();
+    const QPoint whole = onScreen.toPoint();
+    if (pixmap.isNull() || pixels != QPointF(pixels.toPoint()) || onScreen != QPointF(whole))
+    {
+        Forget();
+        return false;
+    }
+    const QRect all(QPoint(), pixmap.deviceIndependentSize().toSize());
+    missing.translate(pixels.toPoint());
+    missing += QRegion(all) - QRegion(all.translated(pixels.toPoint()));
+    pixmap.scroll(whole.x(), whole.y(), pixmap.rect());
+    return true;
+}
+
+const QPixmap& CanvasBackground::Update(QSize size, double ratio, CanvasPage* page, const CanvasView& view,
+                                        const QPalette& palette)
+{
+    const QSize onScreen(static_cast<int>(std::ceil(size.width() * ratio)),
+                         static_cast<int>(std::ceil(size.height() * ratio)));
+    if (pixmap.size() != onScreen || pixmap.devicePixelRatio() != ratio)
+    {
+        pixmap = QPixmap(onScreen);
+        pixmap.setDevicePixelRatio(ratio);
+        missing = QRect(QPoint(), size);
+    }
+    for (const QRect& part : missing)
+        Paint(part, page, view, palette);
+    missing = {};
+    return pixmap;
+}
+
+void CanvasBackground::Paint(const QRect& part, CanvasPage* page, const CanvasView& view,
+                             const QPalette& palette)
+{
+    QPainter painter(&pixmap);
+    painter.setClipRect(part);
+    painter.fillRect(part, palette.color(QPalette::Mid));
+    if (page == nullptr)
+        return;
+    const QRectF sheet = view.ToView(QRectF({}, page->GetSize()));
+    painter.fillRect(sheet, Qt::white);
+    painter.setPen(palette.color(QPalette::Dark));
+    painter.drawRect(sheet);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setTransform(view.GetTransform(), true);
+    page->Paint(painter, view.ToPage(QRectF(part).adjusted(-1, -1, 1, 1)));
+}
+
+} // namespace Desktop

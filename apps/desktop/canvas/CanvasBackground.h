@@ -1,0 +1,38 @@
+#pragma once
+
+#include "apps/desktop/canvas/CanvasPage.h"
+#include "apps/desktop/canvas/CanvasView.h"
+
+#include <QPalette>
+#include <QPixmap>
+#include <QPointF>
+#include <QRegion>
+#include <QSize>
+
+namespace Desktop
+{
+
+/// The page as it was last painted, so that moving it paints only what comes into view.
+class CanvasBackground
+{
+public:
+    /// Everything is painted anew.
+    void Forget();
+
+    /// Moves what is painted; false, and everything is painted anew, where it would no longer lie on whole
+    /// pixels.
+    bool MoveBy(QPointF pixels);
+
+    /// Paints what is missing and returns the whole, `size` in pixels of the widget, each of which has
+    /// `ratio` pixels of the screen. `page` may be null.
+    const QPixmap& Update(QSize size, double ratio, CanvasPage* page, const CanvasView& view,
+                          const QPalette& palette);
+
+private:
+    void Paint(const QRect& part, CanvasPage* page, const CanvasView& view, const QPalette& palette);
+
+    QPixmap pixmap;
+    QRegion missing; ///< In pixels of the widget.
+};
+
+} // namespace Desktop

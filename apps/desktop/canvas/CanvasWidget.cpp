@@ -1,0 +1,158 @@
+// What the canvas shows. What a person does with it is in CanvasInput.cpp.
+
+#include "apps/desktop/canvas/CanvasWidget.h"
+
+#include "apps/desktop/canvas/CanvasState.h"
+#include "apps/desktop/painting/PaintHandles.h"
+#include "apps/workbench/Session.h"
+#include "reference_host/document/Drawing.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include <cstddef>
+#include <vector>
+
+namespace Desktop
+{
+namespace
+{
+
+/// With more objects than this, one frame stands for all handles: nobody could tell them apart.
+constexpr std::size_t kMostHandles = 500;
+
+} // namespace
+
+CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent), state(std::make_unique<State>())
+{
+    setMinimumSize(240, 180);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+CanvasWidget::~CanvasWidget() = default;
+
+void CanvasWidget::ShowDrawing(Workbench::Session* session)
+{
+    state = std::make_unique<State>();
+    update();
+    if (session == nullptr)
+        return;
+    state->drawing = std::make_unique<ShownDrawing>(session->GetDrawing().ReadPicture());
+    SetPage(0);
+    ZoomToPage();
+}
+
+void CanvasWidget::SetSelectedObjects(const std::vector<ReferenceHost::DrawingObject*>& objects)
+{
+    state->selected = ObjectSet(objects.begin(), objects.end());
+    update();
+}
+
+void CanvasWidget::RefreshStyles()
+{
+    if (state->page != nullptr)
+        state->page->ForgetLooks();
+    Repaint();
+}
+
+int CanvasWidget::PageCount() const
+{
+    return state->drawing == nullptr ? 0 : static_cast<int>(state->drawing->picture.pages.size());
+}
+
+int CanvasWidget::CurrentPage() const
+{
+    return state->pageNumber;
+}
+
+void CanvasWidget::SetPage(int page)
+{
+    if (page < 0 || page >= PageCount())
+        return;
+    ShownDrawing& drawing = *state->drawing;
+    state->page = std::make_unique<CanvasPage>(drawing.picture.pages[static_cast<std::size_t>(page)],
+                                               drawing.materials);
+    state->pageNumber = page;
+    if (state->isWholePage)
+        state->view.Fit(state->page->GetSize(), size());
+    Repaint();
+}
+
+void CanvasWidget::ZoomBy(double factor)
+{
+    ZoomAt(QRectF(rect()).center(), factor);
+}
+
+void CanvasWidget::ZoomToPage()
+{
+    state->isWholePage = true;
+    if (state->page != nullptr)
+        state->view.Fit(state->page->GetSize(), size());
+    Repaint();
+}
+
+QPointF CanvasWidget::ToWidget(QPointF onPage) const
+{
+    return state->view.ToView(QRectF(onPage, QSizeF())).topLeft();
+}
+
+void CanvasWidget::Repaint()
+{
+    state->background.Forget();
+    update();
+}
+
+void CanvasWidget::MoveBy(QPointF pixels)
+{
+    state->isWholePage = false;
+    state->view.MoveBy(pixels);
+    state->background.MoveBy(pixels);
+    update();
+}
+
+void CanvasWidget::ZoomAt(QPointF fixed, double factor)
+{
+    state->isWholePage = false;
+    state->view.ZoomAt(fixed, factor);
+    Repaint();
+}
+
+void CanvasWidget::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.drawPixmap(
+        0, 0,
+        state->background.Update(size(), devicePixelRatioF(), state->page.get(), state->view, palette()));
+    if (state->page == nullptr)
+        return;
+    std::vector<QRectF> selected = state->page->BoundsOf(state->selected);
+    if (selected.size() > kMostHandles)
+    {
+        QRectF all;
+        for (const QRectF& each : selected)
+            all |= each;
+        selected = {all};
+    }
+    for (const QRectF& each : selected)
+        PaintHandles(painter, state->view.ToView(each), palette());
+    if (!state->band.isEmpty())
+        PaintRubberBand(painter, state->band, palette());
+}
+
+void CanvasWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    if (state->isWholePage && state->page != nullptr)
+        state->view.Fit(state->page->GetSize(), size());
+    Repaint();
+}
+
+void CanvasWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        Repaint();
+}
+
+} // namespace Desktop
