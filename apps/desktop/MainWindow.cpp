@@ -3,11 +3,11 @@
 
 #include "apps/desktop/MainWindow.h"
 
+#include "apps/desktop/RecentFiles.h"
+#include "apps/desktop/WindowText.h"
 #include "apps/desktop/canvas/CanvasWidget.h"
 #include "apps/desktop/dialogs/NameDialog.h"
 #include "apps/desktop/sections/PanelStack.h"
-#include "apps/desktop/RecentFiles.h"
-#include "apps/desktop/WindowText.h"
 #include "reference_host/document/DocumentError.h"
 #include "reference_host/resources/Language.h"
 

@@ -1,10 +1,10 @@
 // How the window is put together: docks, menus and what listens to what.
 
-#include "apps/desktop/canvas/CanvasWidget.h"
 #include "apps/desktop/EditedBox.h"
 #include "apps/desktop/MainWindow.h"
-#include "apps/desktop/sections/PanelStack.h"
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/canvas/CanvasWidget.h"
+#include "apps/desktop/sections/PanelStack.h"
 #include "reference_host/resources/Language.h"
 
 #include <QAction>

@@ -1,7 +1,7 @@
 #include "tests/desktop/OpenWindow.h"
 
-#include "apps/desktop/rows/RowControl.h"
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/rows/RowControl.h"
 #include "reference_host/resources/Language.h"
 
 #include <QApplication>

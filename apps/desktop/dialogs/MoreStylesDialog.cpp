@@ -1,7 +1,7 @@
 #include "apps/desktop/dialogs/MoreStylesDialog.h"
 
-#include "apps/desktop/dialogs/DialogButtons.h"
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/dialogs/DialogButtons.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 #include "apps/desktop/dialogs/WindowDialogs.h"
 
+#include "apps/desktop/WindowText.h"
 #include "apps/desktop/dialogs/MoreStylesDialog.h"
 #include "apps/desktop/dialogs/NameDialog.h"
-#include "apps/desktop/WindowText.h"
 
 #include <QMessageBox>
 

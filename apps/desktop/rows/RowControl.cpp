@@ -1,11 +1,11 @@
 #include "apps/desktop/rows/RowControl.h"
 
+#include "apps/desktop/WindowText.h"
 #include "apps/desktop/rows/ChoiceControl.h"
 #include "apps/desktop/rows/ColourControl.h"
 #include "apps/desktop/rows/NumberControl.h"
 #include "apps/desktop/rows/SwitchControl.h"
 #include "apps/desktop/rows/TextControl.h"
-#include "apps/desktop/WindowText.h"
 
 namespace Desktop
 {

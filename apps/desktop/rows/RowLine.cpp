@@ -1,10 +1,10 @@
 #include "apps/desktop/rows/RowLine.h"
 
+#include "apps/desktop/WindowText.h"
 #include "apps/desktop/rows/NumberControl.h"
 #include "apps/desktop/rows/RowLabel.h"
 #include "apps/desktop/rows/RowMenu.h"
 #include "apps/desktop/rows/StateIcon.h"
-#include "apps/desktop/WindowText.h"
 
 #include <QGridLayout>
 #include <QMenu>

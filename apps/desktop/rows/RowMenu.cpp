@@ -1,7 +1,7 @@
 #include "apps/desktop/rows/RowMenu.h"
 
-#include "apps/desktop/dialogs/NameDialog.h"
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/dialogs/NameDialog.h"
 #include "apps/workbench/PanelCommands.h"
 #include "apps/workbench/PanelReading.h"
 

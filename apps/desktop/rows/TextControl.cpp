@@ -1,7 +1,7 @@
 #include "apps/desktop/rows/TextControl.h"
 
-#include "apps/desktop/rows/WheelGuard.h"
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/rows/WheelGuard.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

@@ -1,10 +1,10 @@
 #include "apps/desktop/sections/PanelSection.h"
 
-#include "apps/desktop/sections/PresetMenu.h"
+#include "apps/desktop/WindowText.h"
 #include "apps/desktop/rows/RowLine.h"
 #include "apps/desktop/rows/RowMenu.h"
+#include "apps/desktop/sections/PresetMenu.h"
 #include "apps/desktop/sections/StyleMenu.h"
-#include "apps/desktop/WindowText.h"
 #include "apps/workbench/PanelReading.h"
 
 #include <QGridLayout>

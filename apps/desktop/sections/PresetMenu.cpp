@@ -1,7 +1,7 @@
 #include "apps/desktop/sections/PresetMenu.h"
 
-#include "apps/desktop/sections/PresetIcon.h"
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/sections/PresetIcon.h"
 #include "apps/workbench/EditError.h"
 #include "apps/workbench/Report.h"
 
