@@ -3,12 +3,12 @@
 
 readonly BUILD_PACKAGES=(cmake g++ ninja-build pkg-config libpugixml-dev libzip-dev zlib1g-dev libcli11-dev nlohmann-json3-dev)
 readonly TEST_PACKAGES=(libgtest-dev libgmock-dev)
-readonly DESKTOP_PACKAGES=(qt6-base-dev)
+readonly DESKTOP_PACKAGES=(qt6-base-dev qt6-svg-dev)
 readonly CHECK_PACKAGES=(clang clang-tidy clang-format libclang-rt-14-dev)
 readonly COVERAGE_PACKAGES=(gcovr)
 readonly DOCUMENTATION_PACKAGES=(doxygen)
 # What the installed tree and the packages are tried with.
-readonly INSTALL_PACKAGES=(debootstrap dpkg-dev file bash-completion fish zsh python3)
+readonly INSTALL_PACKAGES=(debootstrap dpkg-dev file desktop-file-utils bash-completion fish zsh python3)
 
 # as_root COMMAND...: runs it with the rights that a package manager needs.
 as_root()

@@ -1,8 +1,8 @@
 # What `cmake --install` puts where. Everything finds everything else by relative paths, so that the installed folder
 # can be moved. Panel modules install themselves, see panels/CMakeLists.txt.
 #
-# Three installation components: "runtime" has the shared libraries, "dev" what one needs to build with them, and
-# "tools" the programs with their panels.
+# Four installation components: "runtime" has the shared libraries, "dev" what one needs to build with them, "tools" the
+# command line tool with the panels, and "desktop", where it is built, the window.
 
 include(CMakePackageConfigHelpers)
 
@@ -139,7 +139,12 @@ install(FILES
     DESTINATION ${CMAKE_INSTALL_DATADIR}/styleproperties/catalogues COMPONENT dev)
 
 # The programs.
-if(TARGET styleprops)
-    set_target_properties(styleprops PROPERTIES INSTALL_RPATH "${origin}/${librariesFromPrograms}")
-    install(TARGETS styleprops RUNTIME COMPONENT tools)
-endif()
+function(styleproperties_install_program program component)
+    if(TARGET ${program})
+        set_target_properties(${program} PROPERTIES INSTALL_RPATH "${origin}/${librariesFromPrograms}")
+        install(TARGETS ${program} RUNTIME COMPONENT ${component})
+    endif()
+endfunction()
+
+styleproperties_install_program(styleprops tools)
+styleproperties_install_program(styleprops-desktop desktop)

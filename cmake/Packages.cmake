@@ -1,5 +1,6 @@
 # What `cpack` makes of the build folder:
-#   cpack -G DEB                                  three Debian packages: the libraries, what builds with them, the tools
+#   cpack -G DEB                                  Debian packages: the libraries, what builds with them, the tool, and the
+#                                                 window where it is built
 #   cpack --config CPackSourceConfig.cmake -G TGZ an archive of the files that are committed
 # A package's files lie below /usr.
 
@@ -11,6 +12,9 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL runtime dev tools)
+if(TARGET styleprops-desktop)
+    list(APPEND CPACK_COMPONENTS_ALL desktop)
+endif()
 set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_THREADS 2)
 
@@ -45,8 +49,16 @@ set(CPACK_DEBIAN_TOOLS_DESCRIPTION
 local, inherited or ambiguous, and it changes them: values, overrides, named
 styles and presets. The panels of the library come with it.")
 
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME styleprops-desktop)
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "styleprops (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_DESKTOP_DESCRIPTION
+    "A window on an OpenDocument drawing: it shows for the selected shapes which
+values are local, inherited or ambiguous, and where they come from, and changes
+them. Its panels are those of the command line tool.")
+
 # Debian wants the licence where each package keeps its words.
-foreach(component IN ITEMS runtime dev tools)
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     string(TOUPPER ${component} upper)
     install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_DEBIAN_${upper}_PACKAGE_NAME}
         RENAME copyright COMPONENT ${component})
