@@ -5,6 +5,7 @@
 #include "apps/cli/JsonReport.h"
 #include "apps/cli/TextReport.h"
 #include "apps/workbench/PanelReading.h"
+#include "apps/workbench/ValueText.h"
 #include "host/resources/Resources.h"
 #include "host/utils/Any.h"
 #include "host/utils/Utf8.h"

@@ -4,6 +4,7 @@
 #include "apps/cli/JsonReport.h"
 #include "apps/cli/TextReport.h"
 #include "apps/workbench/PanelReading.h"
+#include "apps/workbench/ValueText.h"
 #include "host/resources/Resources.h"
 #include "reference_host/services/NativePaths.h"
 

@@ -1,6 +1,7 @@
 #include "apps/cli/TextReport.h"
 
 #include "apps/workbench/PanelReading.h"
+#include "apps/workbench/ValueText.h"
 #include "host/resources/Resources.h"
 #include "reference_host/services/NativePaths.h"
 
@@ -15,7 +16,6 @@ namespace
 {
 
 using Framework::Resources::GetString;
-using Workbench::NumberUnit;
 using Workbench::PanelReport;
 using Workbench::RowOrigin;
 using Workbench::RowReport;
@@ -33,54 +33,9 @@ constexpr StateIcon kStateIcons[] = {{L"OverriddenImage", L"●", OutputRole::Lo
                                      {L"AmbiguousImage", L"◐", OutputRole::Ambiguous},
                                      {L"NoneImage", L"·", OutputRole::Plain}};
 
-struct UnitText
-{
-    NumberUnit unit;
-    int scale; ///< How many of the value's own steps make one of the unit; a power of ten.
-    OvxStringViewT symbol;
-};
-
-constexpr UnitText kUnitTexts[] = {{NumberUnit::Millimetre, 100, L"mm"},
-                                   {NumberUnit::Centimetre, 1000, L"cm"},
-                                   {NumberUnit::Point, 10, L"pt"},
-                                   {NumberUnit::Percent, 1, L"%"}};
-
 OvxStringT Number(std::size_t number)
 {
     return OvxStringT(std::to_wstring(number));
-}
-
-/// A number of steps as a decimal number, without zeros at its end.
-OvxStringT DecimalNumber(int steps, int scale)
-{
-    const long long magnitude = steps < 0 ? -static_cast<long long>(steps) : steps;
-    OvxStringT text = (steps < 0 ? L"-" : L"") + OvxStringT(std::to_wstring(magnitude / scale));
-    long long rest = magnitude % scale;
-    if (rest != 0)
-        text += GetString(L"number.decimal-separator");
-    while (rest != 0)
-    {
-        rest *= 10;
-        text += OvxStringT(std::to_wstring(rest / scale));
-        rest %= scale;
-    }
-    return text;
-}
-
-OvxStringT NumberToText(int number, const std::optional<Workbench::NumberRange>& range)
-{
-    if (!range)
-        return OvxStringT(std::to_wstring(number));
-    const auto* const unit = std::find_if(std::begin(kUnitTexts), std::end(kUnitTexts),
-                                          [&](const UnitText& each) { return each.unit == range->unit; });
-    return DecimalNumber(number, unit->scale) + OvxStringT(L" ") + unit->symbol;
-}
-
-OvxStringT ChoiceToText(const OvxStringT& value, const std::vector<Workbench::ChoiceDescription>& choices)
-{
-    const auto choice =
-        std::find_if(choices.begin(), choices.end(), [&](const auto& each) { return each.value == value; });
-    return choice == choices.end() ? value : GetString(choice->label);
 }
 
 TextCell ValueCell(const RowReport& row)
@@ -243,15 +198,6 @@ TextLine StyleToLine(const Workbench::NamedStyleFacts& style, std::size_t depth)
 }
 
 } // namespace
-
-OvxStringT ValueToText(const RowReport& row)
-{
-    if (const auto* number = std::get_if<int>(&row.value))
-        return NumberToText(*number, row.description->range);
-    if (const auto* text = std::get_if<OvxStringT>(&row.value))
-        return ChoiceToText(*text, row.description->choices);
-    return {};
-}
 
 std::vector<TextLine> ReportToText(const std::filesystem::path& file, const Workbench::Report& report)
 {

@@ -20,9 +20,6 @@ namespace Cli
 [[nodiscard]] std::vector<TextLine> PresetRowsToText(const OvxStringT& presetName,
                                                      const Workbench::PanelReport& panel);
 
-/// A value as people read it: a number in the row's unit, a choice by its label, other texts as they are.
-[[nodiscard]] OvxStringT ValueToText(const Workbench::RowReport& row);
-
 /// The sheet as people read it: a tree of the named styles, each under the one it inherits from.
 [[nodiscard]] std::vector<TextLine> StylesToText(const std::vector<Workbench::NamedStyleFacts>& styles);
 

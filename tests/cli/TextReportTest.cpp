@@ -11,7 +11,6 @@ using Cli::Colouring;
 using Cli::LayOut;
 using Cli::ReportToText;
 using Cli::StylesToText;
-using Cli::ValueToText;
 using Workbench::NamedStyleFacts;
 using Workbench::NumberRange;
 using Workbench::NumberUnit;
@@ -50,17 +49,6 @@ protected:
     Report report;
 };
 
-/// A number of a row in its unit.
-std::string NumberText(int number, std::optional<NumberRange> range)
-{
-    RowDescription description;
-    description.range = range;
-    RowReport row;
-    row.description = &description;
-    row.value = number;
-    return LayOut({{{{ValueToText(row)}}}}, Colouring::Off);
-}
-
 NamedStyleFacts NamedStyle(const wchar_t* name, const wchar_t* parent)
 {
     NamedStyleFacts facts;
@@ -72,37 +60,6 @@ NamedStyleFacts NamedStyle(const wchar_t* name, const wchar_t* parent)
 }
 
 } // namespace
-
-TEST(ValueText, ShowsNumbersInTheUnitOfTheRow)
-{
-    EXPECT_EQ(NumberText(350, NumberRange{NumberUnit::Millimetre, 0, 1}), "3.5 mm\n");
-    EXPECT_EQ(NumberText(350, NumberRange{NumberUnit::Centimetre, 0, 1}), "0.35 cm\n");
-    EXPECT_EQ(NumberText(105, NumberRange{NumberUnit::Point, 0, 1}), "10.5 pt\n");
-    EXPECT_EQ(NumberText(30, NumberRange{NumberUnit::Percent, 0, 1}), "30 %\n");
-    EXPECT_EQ(NumberText(30, std::nullopt), "30\n");
-}
-
-TEST(ValueText, ShowsNoMoreDigitsThanThereAre)
-{
-    EXPECT_EQ(NumberText(0, NumberRange{NumberUnit::Millimetre, 0, 1}), "0 mm\n");
-    EXPECT_EQ(NumberText(300, NumberRange{NumberUnit::Millimetre, 0, 1}), "3 mm\n");
-    EXPECT_EQ(NumberText(301, NumberRange{NumberUnit::Millimetre, 0, 1}), "3.01 mm\n");
-    EXPECT_EQ(NumberText(-5, NumberRange{NumberUnit::Millimetre, 0, 1}), "-0.05 mm\n");
-    EXPECT_EQ(NumberText(-2147483648, NumberRange{NumberUnit::Millimetre, 0, 1}), "-21474836.48 mm\n");
-}
-
-TEST(ValueText, ShowsChoicesByTheirLabel)
-{
-    RowDescription description;
-    description.choices = {{L"solid", L"Full"}};
-    RowReport row;
-    row.description = &description;
-
-    row.value = OvxStringT(L"solid");
-    EXPECT_EQ(ValueToText(row), L"Full");
-    row.value = OvxStringT(L"other");
-    EXPECT_EQ(ValueToText(row), L"other");
-}
 
 TEST_F(OneRowReport, HasALineForARowWithIconLabelValueAndState)
 {
