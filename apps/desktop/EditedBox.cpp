@@ -66,7 +66,12 @@ void EditedBox::MakeStyles()
     chain->setWordWrap(true);
     connect(styles, &StyleTree::styleChosen, this,
             [this](const OvxStringT& name) { document.Select(OvxStringViewT(L"sheet:") + name); });
-    connect(styles, &StyleTree::usersWanted, &document, &Document::SelectUsersOf);
+    connect(styles, &StyleTree::usersWanted, this,
+            [this](const OvxStringT& name)
+            {
+                if (!document.SelectUsersOf(name))
+                    emit document.noted(TextOf(L"window.styles.no-users"));
+            });
 }
 
 void EditedBox::ShowSelection()

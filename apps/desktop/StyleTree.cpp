@@ -4,7 +4,9 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSignalBlocker>
 
 namespace Desktop
@@ -18,6 +20,22 @@ constexpr int kUsersColumn = 1;
 OvxStringT NameOf(const QTreeWidgetItem& item)
 {
     return FromQString(item.data(kNameColumn, Qt::UserRole).toString());
+}
+
+/// Its category, where it comes from, and what it sets itself.
+QString Describe(const Workbench::NamedStyleFacts& style)
+{
+    QString tooltip = TextOf(L"styles.category") + QLatin1String(": ") + ToQString(style.category);
+    if (style.isExternal)
+        tooltip +=
+            QLatin1String("\n") + TextOf(L"styles.external") + QLatin1String(": ") + ToQString(style.sheet);
+    QStringList own;
+    for (const OvxStringT& path : style.own)
+        own.append(ToQString(path));
+    if (!own.isEmpty())
+        tooltip +=
+            QLatin1Char('\n') + TextOf(L"styles.own") + QLatin1String(": ") + own.join(QLatin1String(", "));
+    return tooltip;
 }
 
 } // namespace
@@ -49,6 +67,7 @@ void StyleTree::ShowStyles(const std::vector<Workbench::NamedStyleFacts>& styles
     std::map<OvxStringT, bool> wasOpen;
     for (const auto& [name, item] : itemsByName)
         wasOpen[name] = item->isExpanded();
+    const int scrolled = verticalScrollBar()->value();
     clear();
     itemsByName.clear();
     for (const Workbench::NamedStyleFacts& style : styles)
@@ -56,6 +75,7 @@ void StyleTree::ShowStyles(const std::vector<Workbench::NamedStyleFacts>& styles
     PlaceBelowParents(styles);
     for (const auto& [name, item] : itemsByName)
         item->setExpanded(!wasOpen.contains(name) || wasOpen[name]);
+    verticalScrollBar()->setValue(scrolled);
 }
 
 void StyleTree::MarkStyle(const OvxStringT& name)
@@ -69,15 +89,37 @@ void StyleTree::MarkStyle(const OvxStringT& name)
 
 void StyleTree::contextMenuEvent(QContextMenuEvent* event)
 {
+    const bool isAtPointer = event->reason() == QContextMenuEvent::Mouse;
+    if (const QTreeWidgetItem* const item = currentItem())
+        OpenMenu(*item, isAtPointer ? event->globalPos() : PlaceBelow(*item));
+}
+
+void StyleTree::keyPressEvent(QKeyEvent* event)
+{
     const QTreeWidgetItem* const item = currentItem();
-    if (item == nullptr)
-        return;
-    const OvxStringT name = NameOf(*item);
-    QMenu menu;
-    QAction* const users = menu.addAction(TextOf(L"window.styles.select-users"));
-    users->setEnabled(item->data(kUsersColumn, Qt::UserRole).toBool());
-    if (menu.exec(event->globalPos()) == users)
-        emit usersWanted(name);
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isForMenu = event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier;
+    if (item != nullptr && isEnter)
+        emit usersWanted(NameOf(*item));
+    else if (item != nullptr && isForMenu)
+        OpenMenu(*item, PlaceBelow(*item));
+    else
+        QTreeWidget::keyPressEvent(event);
+}
+
+QPoint StyleTree::PlaceBelow(const QTreeWidgetItem& item) const
+{
+    return viewport()->mapToGlobal(visualItemRect(&item).bottomLeft());
+}
+
+void StyleTree::OpenMenu(const QTreeWidgetItem& item, const QPoint& place)
+{
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* const users = menu->addAction(TextOf(L"window.styles.select-users"));
+    users->setEnabled(item.data(kUsersColumn, Qt::UserRole).toBool());
+    connect(users, &QAction::triggered, this, [this, name = NameOf(item)] { emit usersWanted(name); });
+    menu->popup(place);
 }
 
 void StyleTree::AddStyle(const Workbench::NamedStyleFacts& style)
@@ -91,11 +133,7 @@ void StyleTree::AddStyle(const Workbench::NamedStyleFacts& style)
     item->setText(kUsersColumn, QString::number(style.users));
     item->setData(kUsersColumn, Qt::UserRole, style.users > 0);
     item->setTextAlignment(kUsersColumn, Qt::AlignRight);
-    QString tooltip = TextOf(L"styles.category") + QLatin1String(": ") + ToQString(style.category);
-    if (style.isExternal)
-        tooltip +=
-            QLatin1String("\n") + TextOf(L"styles.external") + QLatin1String(": ") + ToQString(style.sheet);
-    item->setToolTip(kNameColumn, tooltip);
+    item->setToolTip(kNameColumn, Describe(style));
     itemsByName[style.name] = item;
 }
 

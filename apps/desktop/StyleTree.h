@@ -35,7 +35,12 @@ signals:
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
+    /// Enter asks for the users of a style, and Shift+F10 opens its menu.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
+    [[nodiscard]] QPoint PlaceBelow(const QTreeWidgetItem& item) const;
+    void OpenMenu(const QTreeWidgetItem& item, const QPoint& place);
     void AddStyle(const Workbench::NamedStyleFacts& style);
     void PlaceBelowParents(const std::vector<Workbench::NamedStyleFacts>& styles);
 

@@ -76,3 +76,27 @@ TEST_F(EditedBox, ComesBackToTheObjectsThatWereSelectedBefore)
 
     EXPECT_EQ(open.Shown("fill.color"), "#ff0000");
 }
+
+TEST_F(EditedBox, WalksThroughTheStylesByKeys)
+{
+    Click("Base");
+
+    QTest::keyClick(&Styles(), Qt::Key_Down);
+
+    EXPECT_EQ(open.Shown("fill.color"), "#00aa00");
+}
+
+TEST_F(EditedBox, SelectsTheUsersOfAStyleByTheKeyForEntering)
+{
+    Click("Base");
+
+    QTest::keyClick(&Styles(), Qt::Key_Return);
+
+    EXPECT_EQ(open.GetDocument().GetEditor().GetSelection().selector, L"id:1/1,id:1/2,id:1/4");
+}
+
+TEST_F(EditedBox, TellsOfEachStyleWhatItSets)
+{
+    EXPECT_TRUE(Style("Accent").toolTip(0).contains(QStringLiteral("fill.color")))
+        << Style("Accent").toolTip(0).toStdString();
+}

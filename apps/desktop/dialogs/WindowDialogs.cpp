@@ -5,6 +5,7 @@
 #include "apps/desktop/dialogs/NameDialog.h"
 
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace Desktop
 {
@@ -29,7 +30,12 @@ std::optional<std::size_t> WindowDialogs::ChooseStyle(const Workbench::StyleList
 
 bool WindowDialogs::Confirm(const OvxStringT& question)
 {
-    return QMessageBox::question(window, TextOf(L"window.question"), ToQString(question)) == QMessageBox::Yes;
+    QMessageBox box(QMessageBox::Question, TextOf(L"window.question"), ToQString(question),
+                    QMessageBox::Yes | QMessageBox::No, window);
+    box.button(QMessageBox::Yes)->setText(TextOf(L"window.yes"));
+    box.button(QMessageBox::No)->setText(TextOf(L"window.no"));
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
 }
 
 } // namespace Desktop

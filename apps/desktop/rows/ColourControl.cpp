@@ -20,7 +20,7 @@ QIcon PaintSwatch(const QColor& colour)
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::gray, 2));
+    painter.setPen(QPen(Qt::darkGray, 2));
     if (colour.isValid())
         painter.setBrush(colour);
     const QRectF square(2, 2, kSide - 4, kSide - 4);

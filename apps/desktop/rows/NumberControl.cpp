@@ -1,19 +1,30 @@
 #include "apps/desktop/rows/NumberControl.h"
 
+#include "apps/desktop/WindowText.h"
+#include "apps/desktop/rows/UnsetSlider.h"
 #include "apps/desktop/rows/UnsetSpinBox.h"
 #include "apps/desktop/rows/WheelGuard.h"
 
-#include <QEvent>
+#include <QCoreApplication>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QSignalBlocker>
-#include <QSlider>
+#include <QMouseEvent>
 
 #include <algorithm>
 #include <utility>
 
 namespace Desktop
 {
+namespace
+{
+
+bool IsStepKey(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
+} // namespace
 
 NumberControl::NumberControl(const Workbench::RowDescription& row, QWidget* parent)
     : RowControl(parent), scale(ScaleOf(row))
@@ -39,8 +50,10 @@ void NumberControl::ShowRow(const Workbench::RowReport& row)
         field->ShowNumber(*value / scale.valuesPerUnit);
     if (slider == nullptr)
         return;
-    const QSignalBlocker blocker(slider);
-    slider->setValue(value == nullptr ? slider->minimum() : *value);
+    if (value == nullptr)
+        slider->ShowNone();
+    else
+        slider->ShowNumber(*value);
 }
 
 QString NumberControl::DragFrom(double start, int pixels)
@@ -57,16 +70,93 @@ double NumberControl::GetNumber() const
 /// An arrow that is held changes the number again and again: all that is one drag.
 bool NumberControl::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonPress && !isHeld)
+    switch (event->type())
     {
-        isHeld = true;
-        emit dragBegan();
+    case QEvent::MouseButtonPress:
+        HoldByPointer(static_cast<QWidget*>(watched));
+        break;
+    case QEvent::MouseButtonRelease:
+    case QEvent::FocusOut:
+        LetGoLater();
+        break;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (FilterKey(*static_cast<QKeyEvent*>(event)))
+            return true;
+        break;
+    default:
+        break;
     }
-    const bool isHandled = RowControl::eventFilter(watched, event);
-    if (event->type() == QEvent::MouseButtonRelease && std::exchange(isHeld, false))
-        QMetaObject::invokeMethod(
-            this, [this] { emit dragEnded(true); }, Qt::QueuedConnection);
-    return isHandled;
+    return RowControl::eventFilter(watched, event);
+}
+
+/// @returns whether the key was meant for the drag alone.
+bool NumberControl::FilterKey(QKeyEvent& key)
+{
+    const bool isPress = key.type() == QEvent::KeyPress;
+    if (isPress && isHeld && key.key() == Qt::Key_Escape)
+    {
+        GiveUp();
+        return true;
+    }
+    if (!IsStepKey(key.key()))
+        return false;
+    // A key may be held for longer than its drag.
+    if (key.isAutoRepeat())
+        return !isHeld;
+    if (isPress)
+        Hold();
+    else
+        LetGoLater();
+    return false;
+}
+
+void NumberControl::Hold()
+{
+    isGivenUp = false;
+    if (!std::exchange(isHeld, true))
+        emit dragBegan();
+}
+
+void NumberControl::HoldByPointer(QWidget* held)
+{
+    underPointer = held;
+    // The slider takes no focus, and would not hear of Escape.
+    if (held == slider)
+        held->grabKeyboard();
+    Hold();
+}
+
+void NumberControl::LetGo(bool commit)
+{
+    if (slider != nullptr && QWidget::keyboardGrabber() == slider)
+        slider->releaseKeyboard();
+    underPointer = nullptr;
+    if (std::exchange(isHeld, false))
+        emit dragEnded(commit);
+}
+
+/// What is watched handles its events after the filter, and may change the number once more.
+void NumberControl::LetGoLater()
+{
+    const auto letGo = [this]
+    {
+        LetGo(!isGivenUp);
+        isGivenUp = false;
+    };
+    QMetaObject::invokeMethod(this, letGo, Qt::QueuedConnection);
+}
+
+/// What is held is told that it was let go, and goes on no more.
+void NumberControl::GiveUp()
+{
+    isGivenUp = true;
+    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(), QPointF(), QPointF(), Qt::LeftButton, {}, {});
+    if (underPointer != nullptr)
+        QCoreApplication::sendEvent(underPointer, &release);
+    QKeyEvent keyRelease(QEvent::KeyRelease, Qt::Key_Up, {});
+    QCoreApplication::sendEvent(field, &keyRelease);
+    LetGo(false);
 }
 
 void NumberControl::MakeField(const Workbench::RowDescription& row)
@@ -76,39 +166,44 @@ void NumberControl::MakeField(const Workbench::RowDescription& row)
     field->setSingleStep(scale.step);
     if (row.range)
         field->setRange(row.range->minimum / scale.valuesPerUnit, row.range->maximum / scale.valuesPerUnit);
+    FitWords();
     field->installEventFilter(this);
     GuardWheel(*field);
     connect(field, &UnsetSpinBox::entered, this, &NumberControl::TakeNumber);
 }
 
+/// The field has room for what stands in it instead of a number.
+void NumberControl::FitWords()
+{
+    constexpr int kArrowsAndFrame = 32;
+    const QFontMetrics metrics(field->font());
+    const int width = std::max(metrics.horizontalAdvance(TextOf(L"value.ambiguous")),
+                               metrics.horizontalAdvance(TextOf(L"value.unset")));
+    field->setMinimumWidth(width + kArrowsAndFrame);
+}
+
 void NumberControl::MakeSlider()
 {
-    slider = new QSlider(Qt::Horizontal, this);
+    slider = new UnsetSlider(this);
     slider->setRange(static_cast<int>(field->minimum()), static_cast<int>(field->maximum()));
     slider->setFocusPolicy(Qt::NoFocus);
+    slider->setMinimumWidth(48);
+    slider->installEventFilter(this);
     GuardWheel(*slider);
-    connect(slider, &QSlider::sliderPressed, this,
-            [this]
-            {
-                isHeld = true;
-                emit dragBegan();
-            });
+    connect(slider, &QSlider::sliderPressed, this, &NumberControl::Hold);
     connect(slider, &QSlider::valueChanged, this,
             [this](int number)
             {
                 field->ShowNumber(number);
                 TakeNumber(number);
             });
-    connect(slider, &QSlider::sliderReleased, this,
-            [this]
-            {
-                isHeld = false;
-                emit dragEnded(true);
-            });
+    connect(slider, &QSlider::sliderReleased, this, [this] { LetGo(!isGivenUp); });
 }
 
 void NumberControl::TakeNumber(double number)
 {
+    if (isGivenUp)
+        return;
     if (isHeld)
         emit dragged(InWords(number));
     else

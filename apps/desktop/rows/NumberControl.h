@@ -3,15 +3,16 @@
 #include "apps/desktop/rows/NumberScale.h"
 #include "apps/desktop/rows/RowControl.h"
 
-class QSlider;
+class QKeyEvent;
 
 namespace Desktop
 {
 
+class UnsetSlider;
 class UnsetSpinBox;
 
-/// A number with its unit; percentages have a slider beside it. Holding an arrow and moving the slider are
-/// drags.
+/// A number with its unit; percentages have a slider beside it. Holding an arrow, of the field or of the
+/// keyboard, and moving the slider are drags, which Escape takes back.
 class NumberControl final : public RowControl
 {
     Q_OBJECT
@@ -25,7 +26,8 @@ public:
     /// shows it as well.
     QString DragFrom(double start, int pixels);
 
-    /// Where such a drag starts.
+    /// Where such a drag starts: the number that is shown; without one zero, or the limit that is nearest to
+    /// it.
     [[nodiscard]] double GetNumber() const;
 
 protected:
@@ -33,14 +35,23 @@ protected:
 
 private:
     void MakeField(const Workbench::RowDescription& row);
+    void FitWords();
     void MakeSlider();
+    bool FilterKey(QKeyEvent& key);
+    void Hold();
+    void HoldByPointer(QWidget* held);
+    void LetGo(bool commit);
+    void LetGoLater();
+    void GiveUp();
     void TakeNumber(double number);
     [[nodiscard]] QString InWords(double number) const;
 
     NumberScale scale;
-    UnsetSpinBox* field = nullptr; ///< Owned by this.
-    QSlider* slider = nullptr;     ///< Owned by this; null but for percentages.
-    bool isHeld = false;           ///< An arrow is held, or the slider.
+    UnsetSpinBox* field = nullptr;   ///< Owned by this.
+    UnsetSlider* slider = nullptr;   ///< Owned by this; null but for percentages.
+    QWidget* underPointer = nullptr; ///< What the pointer holds; null while nothing is.
+    bool isHeld = false;             ///< An arrow is held, or the slider: a drag goes on.
+    bool isGivenUp = false;          ///< The drag was taken back while it was held.
 };
 
 } // namespace Desktop

@@ -1,10 +1,12 @@
 #include "apps/desktop/rows/RowLine.h"
 
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/rows/MenuOpener.h"
 #include "apps/desktop/rows/NumberControl.h"
 #include "apps/desktop/rows/RowLabel.h"
 #include "apps/desktop/rows/RowMenu.h"
 #include "apps/desktop/rows/StateIcon.h"
+#include "apps/desktop/rows/UndoPassage.h"
 
 #include <QGridLayout>
 #include <QMenu>
@@ -25,6 +27,14 @@ RowLine::RowLine(Document& itsDocument, const Workbench::RowPlace& itsPlace, QGr
     grid.addWidget(label, line, 1);
     grid.addWidget(control, line, 2);
     QWidget::setTabOrder(icon, control);
+    for (QWidget* const each :
+         {static_cast<QWidget*>(icon), static_cast<QWidget*>(label), static_cast<QWidget*>(control)})
+        OpenMenuFrom(*each, *menu);
+}
+
+int RowLine::GetLabelWidth() const
+{
+    return label->sizeHint().width();
 }
 
 void RowLine::ShowRow(const Workbench::RowReport& row, bool hasTargets)
@@ -35,7 +45,7 @@ void RowLine::ShowRow(const Workbench::RowReport& row, bool hasTargets)
                                ? QLatin1Char('\n') + TextOf(L"origin.style", ToQString(row.origin.style))
                                : QString();
     icon->setToolTip(tooltip + origin);
-    icon->setAccessibleName(label->text() + QLatin1String(": ") + tooltip);
+    icon->setAccessibleName(NameForReaders() + QLatin1String(": ") + tooltip);
     control->ShowRow(row);
     for (QWidget* const each :
          {static_cast<QWidget*>(icon), static_cast<QWidget*>(label), static_cast<QWidget*>(control)})
@@ -71,7 +81,8 @@ void RowLine::MakeControl(QWidget* parent)
     };
     control = MakeRowControl(*place.row, {offerPalette, offerNames}, parent);
     control->setObjectName(ToQString(place.GetName()));
-    control->focusProxy()->setAccessibleName(TextOf(place.row->label));
+    control->focusProxy()->setAccessibleName(NameForReaders());
+    PassUndoKeys(*control);
     connect(control, &RowControl::committed, this,
             [this](const QString& value)
             { document.Edit([&](Workbench::Editor& editor) { Write(editor, value); }); });
@@ -86,9 +97,6 @@ void RowLine::MakeLabel(QWidget* parent)
 {
     label = new RowLabel(TextOf(place.row->label), parent);
     label->setObjectName(ToQString(place.GetName() + L".label"));
-    label->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(label, &QWidget::customContextMenuRequested, this,
-            [this](const QPoint& position) { menu->popup(label->mapToGlobal(position)); });
     if (auto* const number = dynamic_cast<NumberControl*>(control))
         MakeDraggable(*number);
 }
@@ -109,6 +117,12 @@ void RowLine::MakeDraggable(NumberControl& number)
                 document.Drag([&](Workbench::Editor& editor) { Write(editor, value); });
             });
     connect(label, &RowLabel::dragEnded, &document, &Document::EndDrag);
+}
+
+/// Several panels have a row of the same label, and who hears only this should know which it is.
+QString RowLine::NameForReaders() const
+{
+    return TextOf(place.panel->GetDescription().title) + QLatin1String(", ") + TextOf(place.row->label);
 }
 
 void RowLine::Write(Workbench::Editor& editor, const QString& value) const

@@ -29,11 +29,15 @@ public:
 
     void ShowRow(const Workbench::RowReport& row, bool hasTargets);
 
+    /// How wide the label wants to be, in pixels.
+    [[nodiscard]] int GetLabelWidth() const;
+
 private:
     void MakeIcon(QWidget* parent);
     void MakeLabel(QWidget* parent);
     void MakeControl(QWidget* parent);
     void MakeDraggable(NumberControl& number);
+    [[nodiscard]] QString NameForReaders() const;
     void Write(Workbench::Editor& editor, const QString& value) const;
 
     Document& document;

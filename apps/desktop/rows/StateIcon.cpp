@@ -33,11 +33,12 @@ struct StatePicture
     Qt::PenStyle pen;
 };
 
+/// The colours, which are those of the resources, stand out by three to one on light and on dark ground.
 constexpr StatePicture kPictures[] = {
-    {"NoneImage", ":/icons/none.svg", 0xff8a8f98, Inside::Empty, Qt::DotLine},
-    {"OverriddenImage", ":/icons/overridden.svg", 0xffe07a1f, Inside::Full, Qt::SolidLine},
-    {"InheritedImage", ":/icons/inherited.svg", 0xff2a7fb8, Inside::Empty, Qt::SolidLine},
-    {"AmbiguousImage", ":/icons/ambiguous.svg", 0xff8a5bb0, Inside::Half, Qt::SolidLine}};
+    {"NoneImage", ":/icons/none.svg", 0xff7f858e, Inside::Empty, Qt::DotLine},
+    {"OverriddenImage", ":/icons/overridden.svg", 0xffcc6a12, Inside::Full, Qt::SolidLine},
+    {"InheritedImage", ":/icons/inherited.svg", 0xff3787bd, Inside::Empty, Qt::SolidLine},
+    {"AmbiguousImage", ":/icons/ambiguous.svg", 0xff9c6ec4, Inside::Half, Qt::SolidLine}};
 
 QIcon Paint(const StatePicture& picture)
 {

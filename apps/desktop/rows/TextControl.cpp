@@ -48,6 +48,7 @@ void TextControl::ShowRow(const Workbench::RowReport& row)
     field->setCurrentIndex(field->findText(shown));
     field->setEditText(shown);
     field->lineEdit()->setPlaceholderText(PlaceholderOf(row));
+    field->setAccessibleDescription(PlaceholderOf(row));
     field->lineEdit()->setCursorPosition(0);
 }
 

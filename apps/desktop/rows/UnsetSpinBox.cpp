@@ -31,6 +31,7 @@ void UnsetSpinBox::ShowNumber(double number)
     LeaveNone();
     setRange(std::min(minimum(), number), std::max(maximum(), number));
     setValue(number);
+    setAccessibleDescription(QString());
     // The value may be what it was before there was none; the text is not.
     lineEdit()->setText(textFromValue(value()) + unit);
 }
@@ -41,6 +42,8 @@ void UnsetSpinBox::ShowNone(const QString& placeholder)
     isTyped = false;
     isNone = true;
     lineEdit()->setPlaceholderText(placeholder);
+    // Who hears what the field holds would hear nothing.
+    setAccessibleDescription(placeholder);
     setSuffix(QString());
     setValue(0);
     lineEdit()->clear();

@@ -1,6 +1,7 @@
 #include "apps/desktop/sections/PanelSection.h"
 
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/rows/MenuOpener.h"
 #include "apps/desktop/rows/RowLine.h"
 #include "apps/desktop/rows/RowMenu.h"
 #include "apps/desktop/sections/PresetMenu.h"
@@ -13,6 +14,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Desktop
 {
 
@@ -22,10 +25,7 @@ PanelSection::PanelSection(Document& itsDocument, WindowDialogs& itsDialogs, Wor
 {
     auto* const header = new QHBoxLayout;
     MakeHeader(*header);
-    auto* const grid = new QGridLayout(body);
-    grid->setContentsMargins(4, 0, 4, 8);
-    grid->setColumnStretch(2, 1);
-    MakeRows(*grid);
+    MakeRows();
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
@@ -62,11 +62,28 @@ void PanelSection::SetOpen(bool isOpen)
     body->setVisible(isOpen);
 }
 
-void PanelSection::MakeHeader(QHBoxLayout& layout)
+QString PanelSection::GetName() const
 {
-    const OvxStringT& name = panel.GetDescription().name;
+    return ToQString(panel.GetDescription().name);
+}
+
+int PanelSection::GetLabelWidth() const
+{
+    int width = 0;
+    for (const RowLine* const row : rows)
+        width = std::max(width, row->GetLabelWidth());
+    return width;
+}
+
+void PanelSection::SetLabelWidth(int pixels)
+{
+    grid->setColumnMinimumWidth(1, pixels);
+}
+
+void PanelSection::MakeTitle(QHBoxLayout& layout)
+{
     title = new QToolButton(this);
-    title->setObjectName(ToQString(name + OvxStringT(L".title")));
+    title->setObjectName(GetName() + QLatin1String(".title"));
     title->setCheckable(true);
     title->setAutoRaise(true);
     title->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -76,28 +93,39 @@ void PanelSection::MakeHeader(QHBoxLayout& layout)
     bold.setBold(true);
     title->setFont(bold);
     connect(title, &QToolButton::toggled, this, &PanelSection::SetOpen);
-    auto* const whole = new QMenu(title);
-    title->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(title, &QWidget::customContextMenuRequested, this,
-            [this, whole](const QPoint& position)
-            {
-                whole->clear();
-                FillRowMenu(*whole, document, {&panel, nullptr});
-                whole->popup(title->mapToGlobal(position));
-            });
     layout.addWidget(title, 1);
+}
+
+void PanelSection::MakeHeader(QHBoxLayout& layout)
+{
+    MakeTitle(layout);
+    const OvxStringT& name = panel.GetDescription().name;
     lists.push_back(AddMenuButton(layout, TextOf(L"window.section.style"), name + OvxStringT(L".styles"),
                                   [this](QMenu& menu)
                                   { FillStyleMenu(menu, document, dialogs, panel.GetDescription().name); }));
     if (OffersPresets(panel))
         AddMenuButton(layout, TextOf(L"window.section.presets"), name + OvxStringT(L".presets"),
                       [this](QMenu& menu) { FillPresetMenu(menu, document, dialogs, panel); });
+    QToolButton* const whole = AddMenuButton(layout, QStringLiteral("\u22ef"), name + OvxStringT(L".whole"),
+                                             [this](QMenu& menu) {
+                                                 FillRowMenu(menu, document, {&panel, nullptr});
+                                             });
+    whole->setAccessibleName(TextOf(panel.GetDescription().title) + QLatin1String(": ") +
+                             TextOf(L"window.section.whole"));
+    whole->setToolTip(TextOf(L"window.section.whole"));
+    // The arrow would hide the dots.
+    whole->setStyleSheet(QStringLiteral("QToolButton::menu-indicator { image: none; }"));
+    OpenMenuFrom(*title, *whole->menu());
+    lists.push_back(whole);
 }
 
-void PanelSection::MakeRows(QGridLayout& grid)
+void PanelSection::MakeRows()
 {
+    grid = new QGridLayout(body);
+    grid->setContentsMargins(4, 0, 4, 8);
+    grid->setColumnStretch(2, 1);
     for (const Workbench::RowDescription& row : panel.GetDescription().rows)
-        rows.push_back(new RowLine(document, {&panel, &row}, grid, body));
+        rows.push_back(new RowLine(document, {&panel, &row}, *grid, body));
 }
 
 QToolButton* PanelSection::AddMenuButton(QHBoxLayout& layout, const QString& text, const OvxStringT& name,

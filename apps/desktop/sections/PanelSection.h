@@ -36,9 +36,19 @@ public:
     [[nodiscard]] bool IsOpen() const;
     void SetOpen(bool isOpen);
 
+    /// What the panel is known by, whatever the language.
+    [[nodiscard]] QString GetName() const;
+
+    /// How wide the widest label of a row wants to be, in pixels.
+    [[nodiscard]] int GetLabelWidth() const;
+
+    /// Gives the labels at least that much room, so that controls of several sections stand in one line.
+    void SetLabelWidth(int pixels);
+
 private:
     void MakeHeader(QHBoxLayout& layout);
-    void MakeRows(QGridLayout& grid);
+    void MakeTitle(QHBoxLayout& layout);
+    void MakeRows();
     QToolButton* AddMenuButton(QHBoxLayout& layout, const QString& text, const OvxStringT& name,
                                const std::function<void(QMenu&)>& fill);
 
@@ -48,7 +58,8 @@ private:
     QToolButton* title = nullptr;
     std::vector<QToolButton*> lists; ///< The buttons that open lists; owned by this.
     QWidget* body = nullptr;
-    std::vector<RowLine*> rows; ///< In the order of the description; owned by the body.
+    QGridLayout* grid = nullptr; ///< Owned by the body.
+    std::vector<RowLine*> rows;  ///< In the order of the description; owned by the body.
 };
 
 } // namespace Desktop

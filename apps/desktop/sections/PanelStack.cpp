@@ -4,6 +4,8 @@
 
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Desktop
 {
 
@@ -11,6 +13,8 @@ PanelStack::PanelStack(Document& itsDocument, WindowDialogs& itsDialogs, QWidget
     : QScrollArea(parent), document(itsDocument), dialogs(itsDialogs)
 {
     setWidgetResizable(true);
+    // What is in it takes the keyboard.
+    setFocusPolicy(Qt::NoFocus);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(&document, &Document::closing, this, &PanelStack::Clear);
@@ -29,25 +33,38 @@ void PanelStack::Rebuild()
     for (const auto& panel : document.GetSession().GetPanels())
     {
         auto* const section = new PanelSection(document, dialogs, *panel, content);
-        section->SetOpen(!closed.contains(sections.size()));
         sections.push_back(section);
         layout->addWidget(section);
     }
     layout->addStretch(1);
+    SetClosed(closed);
+    AlignLabels();
     setWidget(content);
     // Its own scroll bar takes its room from the width, never from the panels.
     setMinimumWidth(content->minimumSizeHint().width() + 24);
 }
 
+QStringList PanelStack::GetClosed() const
+{
+    QStringList names;
+    for (const PanelSection* const section : sections)
+    {
+        if (!section->IsOpen())
+            names.append(section->GetName());
+    }
+    return names;
+}
+
+void PanelStack::SetClosed(const QStringList& names)
+{
+    for (PanelSection* const section : sections)
+        section->SetOpen(!names.contains(section->GetName()));
+}
+
 void PanelStack::Clear()
 {
     if (!sections.empty())
-        closed.clear();
-    for (std::size_t index = 0; index < sections.size(); ++index)
-    {
-        if (!sections[index]->IsOpen())
-            closed.insert(index);
-    }
+        closed = GetClosed();
     sections.clear();
     delete takeWidget();
 }
@@ -56,6 +73,15 @@ void PanelStack::Refresh()
 {
     for (PanelSection* const section : sections)
         section->Refresh();
+}
+
+void PanelStack::AlignLabels()
+{
+    int width = 0;
+    for (const PanelSection* const section : sections)
+        width = std::max(width, section->GetLabelWidth());
+    for (PanelSection* const section : sections)
+        section->SetLabelWidth(width);
 }
 
 } // namespace Desktop

@@ -4,8 +4,8 @@
 #include "apps/desktop/dialogs/WindowDialogs.h"
 
 #include <QScrollArea>
+#include <QStringList>
 
-#include <set>
 #include <vector>
 
 namespace Desktop
@@ -25,14 +25,21 @@ public:
     /// Makes all sections anew, for another drawing or language; those that were closed stay closed.
     void Rebuild();
 
+    /// The names of the panels whose sections are closed.
+    [[nodiscard]] QStringList GetClosed() const;
+
+    /// Closes the sections of these panels and opens all others.
+    void SetClosed(const QStringList& names);
+
 private:
     void Clear();
     void Refresh();
+    void AlignLabels();
 
     Document& document;
     WindowDialogs& dialogs;
     std::vector<PanelSection*> sections; ///< In the order of the panels; owned by the scrolled widget.
-    std::set<std::size_t> closed;
+    QStringList closed;                  ///< Those of the sections before, while there are none.
 };
 
 } // namespace Desktop

@@ -4,9 +4,11 @@
 #include "apps/desktop/sections/PresetIcon.h"
 #include "apps/workbench/EditError.h"
 #include "apps/workbench/Report.h"
+#include "apps/workbench/ValueText.h"
 
 #include <QMenu>
 
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,33 @@ namespace
 
 using Workbench::Editor;
 using Workbench::PresetReport;
+
+/// What a preset sets, a line for each row.
+QStringList Describe(Document& document, const OvxStringT& panel, const OvxStringT& preset)
+{
+    QStringList lines;
+    for (const Workbench::RowReport& row : document.GetEditor().DescribePreset(panel, preset).rows)
+    {
+        const QString value = row.link.empty() ? ToQString(Workbench::ValueToText(row)) : ToQString(row.link);
+        lines.append(TextOf(row.description->label) + QLatin1String(": ") + value);
+    }
+    return lines.isEmpty() ? QStringList(TextOf(L"preset.empty")) : lines;
+}
+
+/// To tell what a preset sets takes trying it out: only that is tried which a person comes to.
+void TellWhatItSets(QAction& action, Document& document, const OvxStringT& panel, const OvxStringT& preset)
+{
+    try
+    {
+        const QStringList lines = Describe(document, panel, preset);
+        action.setToolTip(lines.join(QLatin1Char('\n')));
+        emit document.noted(lines.join(QLatin1String("; ")));
+    }
+    catch (const std::exception& error)
+    {
+        emit document.noted(QString::fromStdString(error.what()));
+    }
+}
 
 QAction* AddEntry(QMenu& menu, const PresetReport& preset)
 {
@@ -70,10 +99,17 @@ void FillPresetMenu(QMenu& menu, Document& document, WindowDialogs& dialogs, Wor
 {
     const OvxStringT name = panel.GetDescription().name;
     const std::vector<PresetReport> presets = document.GetEditor().ListPresets(name);
+    menu.setToolTipsVisible(true);
     for (const PresetReport& preset : presets)
-        QObject::connect(AddEntry(menu, preset), &QAction::triggered, &document,
+    {
+        QAction* const action = AddEntry(menu, preset);
+        QObject::connect(action, &QAction::hovered, &document,
+                         [action, &document, name, hovered = preset.name]
+                         { TellWhatItSets(*action, document, name, hovered); });
+        QObject::connect(action, &QAction::triggered, &document,
                          [&document, name, chosen = preset.name]
                          { document.Edit([&](Editor& editor) { editor.ApplyPreset(name, chosen); }); });
+    }
     if (presets.empty())
         menu.addAction(TextOf(L"window.preset.none"))->setEnabled(false);
     menu.addSeparator();

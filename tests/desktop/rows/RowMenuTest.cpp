@@ -1,7 +1,12 @@
 #include "tests/desktop/OpenWindow.h"
 #include "tests/workbench/EditorFixture.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDoubleSpinBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -15,6 +20,22 @@ namespace
 struct RowMenu : testing::Test
 {
     OpenWindow open{FourBoxes()};
+
+    /// Whether the menu of the row is open now; closes it.
+    bool TakeOpen()
+    {
+        QMenu* const menu = open.Find<QWidget>("outline.width.state").findChild<QMenu*>();
+        const bool isOpen = menu->isVisible() && !menu->actions().isEmpty();
+        menu->close();
+        return isOpen;
+    }
+
+    static void RightClick(QWidget& widget)
+    {
+        const QPoint place(3, 3);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget.mapToGlobal(place));
+        QApplication::sendEvent(&widget, &event);
+    }
 };
 
 } // namespace
@@ -89,4 +110,49 @@ TEST_F(RowMenu, OpensTheParentStyleForEditing)
 
     EXPECT_EQ(open.GetDocument().GetEditor().GetSelection().selector, L"sheet:Base");
     EXPECT_EQ(open.Shown("fill.color"), "#3366cc");
+}
+
+TEST_F(RowMenu, OpensByARightClickOnIconLabelAndControl)
+{
+    open.Select(L"id:1/2");
+    auto& control = open.Find<QWidget>("outline.width");
+
+    for (QWidget* const each :
+         {&open.Find<QWidget>("outline.width.state"), &open.Find<QWidget>("outline.width.label"),
+          static_cast<QWidget*>(control.findChild<QDoubleSpinBox*>()),
+          static_cast<QWidget*>(control.findChild<QLineEdit*>())})
+    {
+        RightClick(*each);
+        EXPECT_TRUE(TakeOpen()) << each->metaObject()->className();
+    }
+}
+
+TEST_F(RowMenu, OpensByTheKeyForMenus)
+{
+    open.Select(L"id:1/2");
+    auto& field = *open.Find<QWidget>("outline.width").findChild<QDoubleSpinBox*>();
+
+    QTest::keyClick(&field, Qt::Key_F10, Qt::ShiftModifier);
+
+    EXPECT_TRUE(TakeOpen());
+}
+
+TEST_F(RowMenu, OfAWholePanelRevertsAllItsRows)
+{
+    open.Select(L"id:1/2");
+
+    open.Choose("fill.whole", "Revert to Base");
+
+    EXPECT_EQ(open.Shown("fill.color"), "#3366cc");
+}
+
+TEST_F(RowMenu, OfAWholePanelOpensFromItsTitleByKey)
+{
+    open.Select(L"id:1/2");
+
+    QTest::keyClick(&open.Find<QWidget>("fill.title"), Qt::Key_F10, Qt::ShiftModifier);
+
+    QMenu& menu = *open.Find<QWidget>("fill.whole").findChild<QMenu*>();
+    EXPECT_TRUE(menu.isVisible());
+    menu.close();
 }

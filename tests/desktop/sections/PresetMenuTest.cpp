@@ -1,6 +1,7 @@
 #include "tests/desktop/OpenWindow.h"
 #include "tests/workbench/EditorFixture.h"
 
+#include <QImage>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -28,6 +29,18 @@ struct PresetMenu : testing::Test
     {
         const DialogAnswer answer([&](QDialog& dialog) { NameIt(dialog, name); });
         open.Choose("fill.presets", "Add Preset...");
+    }
+
+    QMenu& Menu() { return *open.Find<QWidget>("fill.presets").findChild<QMenu*>(); }
+
+    /// Chooses the preset in the menu of those to delete.
+    void Delete(QMessageBox::StandardButton button)
+    {
+        const DialogAnswer answer([=](QDialog& dialog)
+                                  { static_cast<QMessageBox&>(dialog).button(button)->click(); });
+        Menu().popup(QPoint(10, 10));
+        Menu().findChild<QMenu*>()->actions().front()->trigger();
+        Menu().close();
     }
 };
 
@@ -79,4 +92,53 @@ TEST_F(PresetMenu, AddsNothingWhenTheDialogIsGivenUp)
     open.Choose("fill.presets", "Add Preset...");
 
     EXPECT_TRUE(open.GetConfiguration().PresetFiles().empty());
+}
+
+TEST_F(PresetMenu, DeletesAPresetAfterAQuestion)
+{
+    open.Select(L"id:1/2");
+    Add(QStringLiteral("Warm"));
+
+    Delete(QMessageBox::Yes);
+
+    EXPECT_TRUE(open.GetConfiguration().PresetFiles().empty());
+    EXPECT_EQ(open.Entries("fill.presets").front(), QStringLiteral("-No presets"));
+}
+
+TEST_F(PresetMenu, KeepsAPresetWhenTheQuestionIsAnsweredWithNo)
+{
+    open.Select(L"id:1/2");
+    Add(QStringLiteral("Warm"));
+
+    Delete(QMessageBox::No);
+
+    EXPECT_EQ(open.GetConfiguration().PresetFiles().size(), 1U);
+}
+
+TEST_F(PresetMenu, TellsWhatAPresetSetsAndChangesNothing)
+{
+    open.Select(L"id:1/2");
+    Add(QStringLiteral("Warm"));
+    open.Select(L"id:1/1");
+    Menu().popup(QPoint(10, 10));
+    QAction& preset = *Menu().actions().front();
+
+    Menu().setActiveAction(&preset);
+
+    EXPECT_EQ(preset.toolTip(), QStringLiteral("Colour: #ff0000"));
+    Menu().close();
+    EXPECT_FALSE(open.GetDocument().IsModified());
+    EXPECT_EQ(open.Shown("fill.color"), "#3366cc");
+}
+
+TEST_F(PresetMenu, ShowsAPictureOfWhatAPresetFillsWith)
+{
+    open.Select(L"id:1/2");
+    Add(QStringLiteral("Warm"));
+    Menu().popup(QPoint(10, 10));
+
+    const QImage picture = Menu().actions().front()->icon().pixmap(32, 32).toImage();
+
+    EXPECT_EQ(picture.pixelColor(picture.rect().center()), QColor(255, 0, 0));
+    Menu().close();
 }
