@@ -35,6 +35,16 @@ QStringList ToQStrings(const std::vector<std::string>& lines)
     return list;
 }
 
+QString DescribeWritten(const std::filesystem::path& drawing,
+                        const std::vector<std::filesystem::path>& sheets)
+{
+    QStringList files;
+    for (const std::filesystem::path& sheet : sheets)
+        files.append(TextOf(L"edit.saved-sheet", PathToQString(sheet)));
+    files.append(TextOf(L"edit.saved", PathToQString(drawing)));
+    return files.join(QLatin1String("; "));
+}
+
 /// The selector that finds just these.
 OvxStringT SelectorOf(ReferenceHost::Drawing& drawing,
                       const std::vector<ReferenceHost::DrawingObject*>& objects)
@@ -98,11 +108,11 @@ bool Document::Save(const std::filesystem::path& target)
         [&]
         {
             std::vector<std::string> told;
-            constexpr bool kKeepBackup = true;
-            editor->Save(target, !kKeepBackup, told);
+            const std::vector<std::filesystem::path> sheets = editor->Save(target, keepsBackup, told);
             warnings = ToQStrings(told);
             path = target;
             savedStep = editor->GetStepCount();
+            emit noted(DescribeWritten(target, sheets));
         });
     emit fileChanged();
     return isSaved;

@@ -54,7 +54,10 @@ public:
     /// @returns whether it did; if not, failed() told why.
     bool Open(const std::filesystem::path& file);
 
-    /// Saves the drawing, which lies in that file from then on.
+    /// Whether saving keeps what each file was beside it, with "~" behind its name.
+    void SetKeepsBackup(bool isKept) noexcept { keepsBackup = isKept; }
+
+    /// Saves the drawing, which lies in that file from then on, and tells in words which files were written.
     ///
     /// @returns whether it did; if not, failed() told why.
     bool Save(const std::filesystem::path& target);
@@ -129,6 +132,7 @@ private:
     std::unique_ptr<Workbench::Editor> editor;   ///< Never null between calls; ends before the session.
     std::filesystem::path path;
     QStringList warnings;
+    bool keepsBackup = false;
     std::optional<std::size_t> savedStep; ///< How many steps led to what the file holds; none for no number.
     std::size_t lastStep = 0;
 };

@@ -4,9 +4,13 @@
 #include "apps/desktop/MainWindow.h"
 
 #include "apps/desktop/RecentFiles.h"
+#include "apps/desktop/ToolkitLanguage.h"
+#include "apps/desktop/WindowMemory.h"
 #include "apps/desktop/WindowText.h"
 #include "apps/desktop/canvas/CanvasWidget.h"
+#include "apps/desktop/dialogs/ChangesDialog.h"
 #include "apps/desktop/dialogs/NameDialog.h"
+#include "apps/desktop/dialogs/SelectDialog.h"
 #include "apps/desktop/sections/PanelStack.h"
 #include "reference_host/document/DocumentError.h"
 #include "reference_host/resources/Language.h"
@@ -47,11 +51,14 @@ QString DroppedFile(const QMimeData& data)
     return data.urls().size() == 1 ? data.urls().front().toLocalFile() : QString();
 }
 
-/// A field that is typed in takes what was typed when it loses the keyboard.
+/// A field that is typed in takes what was typed when it loses the keyboard, which it has again afterwards.
 void TakeTypedValue(const QWidget& window)
 {
-    if (QWidget* const field = window.focusWidget())
-        field->clearFocus();
+    QWidget* const field = window.focusWidget();
+    if (field == nullptr || !field->hasFocus())
+        return;
+    field->clearFocus();
+    field->setFocus();
 }
 
 } // namespace
@@ -112,11 +119,19 @@ void MainWindow::ShowLanguage(const std::string& language)
     if (!ReferenceHost::SetLanguage(language))
         return;
     QLocale::setDefault(QLocale(QString::fromStdString(language)));
+    TranslateToolkit(language);
+    const QByteArray layout = saveState();
+    const QStringList closed = panelStack->GetClosed();
     delete std::exchange(panelDock, nullptr);
     delete std::exchange(editedDock, nullptr);
+    // Panels word their titles when they are handed what is edited.
+    document.Select(document.GetEditor().GetSelection().selector);
     MakeDocks();
+    panelStack->SetClosed(closed);
+    restoreState(layout);
     MakeMenus();
     canvas->setAccessibleName(TextOf(L"window.canvas"));
+    statusBar()->clearMessage();
     ShowFile();
     ShowPage();
 }
@@ -125,6 +140,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     TakeTypedValue(*this);
     event->setAccepted(AskToKeepChanges());
+    if (event->isAccepted() && remembersLayout)
+        RememberLayout();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
@@ -145,9 +162,6 @@ void MainWindow::dropEvent(QDropEvent* event)
 void MainWindow::ShowOpened()
 {
     ShowDrawing();
-    const QStringList& warnings = document.GetWarnings();
-    warningsButton->setVisible(!warnings.isEmpty());
-    warningsButton->setText(TextOf(L"window.warnings", QString::number(warnings.size())));
     ShowFile();
     ShowSelection();
     ShowPage();
@@ -175,10 +189,23 @@ void MainWindow::ShowFile()
     setWindowModified(document.IsModified());
     const QString undo = document.GetUndoName();
     const QString redo = document.GetRedoName();
-    undoAction->setText(TextOf(L"window.edit.undo", EscapeMnemonics(undo)));
-    redoAction->setText(TextOf(L"window.edit.redo", EscapeMnemonics(redo)));
+    undoAction->setText(undo.isEmpty() ? TextOf(L"window.edit.undo.nothing")
+                                       : TextOf(L"window.edit.undo", EscapeMnemonics(undo)));
+    redoAction->setText(redo.isEmpty() ? TextOf(L"window.edit.redo.nothing")
+                                       : TextOf(L"window.edit.redo", EscapeMnemonics(redo)));
     undoAction->setEnabled(!undo.isEmpty());
     redoAction->setEnabled(!redo.isEmpty());
+    ShowWarningCount();
+}
+
+/// Saving may have something to say as well.
+void MainWindow::ShowWarningCount()
+{
+    const QStringList& warnings = document.GetWarnings();
+    warningsButton->setVisible(!warnings.isEmpty());
+    warningsButton->setText(warnings.size() == 1
+                                ? TextOf(L"window.warning")
+                                : TextOf(L"window.warnings", QString::number(warnings.size())));
 }
 
 void MainWindow::ShowSelection()
@@ -240,9 +267,9 @@ bool MainWindow::AskToKeepChanges()
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && Save());
 }
 
-void MainWindow::SelectAll()
+void MainWindow::AskForSelection()
 {
-    document.Select(L"all");
+    SelectDialog(document, this).exec();
 }
 
 void MainWindow::DefineColour()
@@ -268,9 +295,21 @@ void MainWindow::ShowWarnings()
                              document.GetWarnings().join(QLatin1Char('\n')));
 }
 
-void MainWindow::TurnPage(int by)
+void MainWindow::ShowChanges()
 {
-    canvas->SetPage(canvas->CurrentPage() + by);
+    TakeTypedValue(*this);
+    ChangesDialog(document.GetEditor().DescribeChanges(), document.GetSession().GetPanels(), this).exec();
+}
+
+void MainWindow::KeepBackup(bool isKept)
+{
+    document.SetKeepsBackup(isKept);
+    Remember(QStringLiteral("keepBackup"), isKept);
+}
+
+void MainWindow::ShowPageAt(int page)
+{
+    canvas->SetPage(page);
     ShowPage();
 }
 

@@ -50,6 +50,19 @@ public:
     /// Asks where to save.
     bool SaveAs();
 
+    /// Shows the docks and sections as they were when a window was closed last; what is remembered is kept
+    /// from there on.
+    void RestoreLayout();
+
+    /// Opens what has that name, as a person would: the list or menu of a button, or what an entry of the
+    /// menus shows. Comes back when that is closed, if it waits for a person.
+    ///
+    /// @returns false when there is nothing of that name to open.
+    bool OpenNamed(const QString& name);
+
+    /// Turns to a page, counted from zero; one that there is not is passed over.
+    void ShowPageAt(int page);
+
     /// Shows all texts in another language; one that there is not changes nothing.
     void ShowLanguage(const std::string& language);
 
@@ -66,6 +79,8 @@ private:
     void MakeEditMenu();
     void MakeViewMenu();
     void MakeLanguageMenu(QMenu& view);
+    void MakeSelectionEntries(QMenu& menu);
+    void MakePaneEntries(QMenu& menu);
     void MakeStatusBar();
     void Connect();
     QAction* AddAction(QMenu& menu, OvxStringViewT key, const QKeySequence& keys,
@@ -77,17 +92,22 @@ private:
     void ShowFile();
     void ShowSelection();
     void ShowPage();
+    void ShowWarningCount();
     void ShowRecentFiles();
+    void RememberLayout() const;
 
     // What menus do
     void AskForFile();
     [[nodiscard]] bool AskToKeepChanges();
-    void SelectAll();
+    void AskForSelection();
     void DefineColour();
+    void ShowChanges();
     void ShowWarnings();
-    void TurnPage(int by);
+    void KeepBackup(bool isKept);
+    void EnterPane(int by);
 
     bool isAttended = true;
+    bool remembersLayout = false;
     WindowDialogs dialogs;
     Document document;
     CanvasWidget* canvas; ///< Owned by this, as are the others.

@@ -2,6 +2,7 @@
 
 #include "apps/desktop/EditedBox.h"
 #include "apps/desktop/MainWindow.h"
+#include "apps/desktop/WindowMemory.h"
 #include "apps/desktop/WindowText.h"
 #include "apps/desktop/canvas/CanvasWidget.h"
 #include "apps/desktop/sections/PanelStack.h"
@@ -52,6 +53,11 @@ void MainWindow::MakeFileMenu()
     menu.addSeparator();
     AddAction(menu, L"window.file.save", QKeySequence::Save, [this] { Save(); });
     AddAction(menu, L"window.file.save-as", QKeySequence::SaveAs, [this] { SaveAs(); });
+    QAction* const backup = AddAction(menu, L"window.file.backup", {}, [] {});
+    backup->setCheckable(true);
+    backup->setChecked(Recall(QStringLiteral("keepBackup")).toBool());
+    document.SetKeepsBackup(backup->isChecked());
+    connect(backup, &QAction::toggled, this, &MainWindow::KeepBackup);
     menu.addSeparator();
     AddAction(menu, L"window.file.quit", QKeySequence::Quit, [this] { close(); });
 }
@@ -62,10 +68,17 @@ void MainWindow::MakeEditMenu()
     undoAction = AddAction(menu, L"window.edit.undo", QKeySequence::Undo, [this] { document.Undo(); });
     redoAction = AddAction(menu, L"window.edit.redo", QKeySequence::Redo, [this] { document.Redo(); });
     menu.addSeparator();
-    AddAction(menu, L"window.edit.select-all", QKeySequence::SelectAll, [this] { SelectAll(); });
-    AddAction(menu, L"window.edit.defaults", {}, [this] { document.Select(L"defaults"); });
+    MakeSelectionEntries(menu);
     menu.addSeparator();
     AddAction(menu, L"window.edit.palette", {}, [this] { DefineColour(); });
+    AddAction(menu, L"window.edit.changes", QKeySequence(QStringLiteral("F7")), [this] { ShowChanges(); });
+}
+
+void MainWindow::MakeSelectionEntries(QMenu& menu)
+{
+    AddAction(menu, L"window.edit.select-all", QKeySequence::SelectAll, [this] { document.Select(L"all"); });
+    AddAction(menu, L"window.edit.select", QKeySequence::Find, [this] { AskForSelection(); });
+    AddAction(menu, L"window.edit.defaults", {}, [this] { document.Select(L"defaults"); });
 }
 
 void MainWindow::MakeViewMenu()
@@ -78,14 +91,22 @@ void MainWindow::MakeViewMenu()
               [this] { canvas->ZoomToPage(); });
     menu.addSeparator();
     previousPage = AddAction(menu, L"window.view.previous-page", QKeySequence(QStringLiteral("Ctrl+PgUp")),
-                             [this] { TurnPage(-1); });
+                             [this] { ShowPageAt(canvas->CurrentPage() - 1); });
     nextPage = AddAction(menu, L"window.view.next-page", QKeySequence(QStringLiteral("Ctrl+PgDown")),
-                         [this] { TurnPage(1); });
+                         [this] { ShowPageAt(canvas->CurrentPage() + 1); });
     menu.addSeparator();
-    menu.addAction(editedDock->toggleViewAction());
-    menu.addAction(panelDock->toggleViewAction());
+    MakePaneEntries(menu);
     menu.addSeparator();
     MakeLanguageMenu(menu);
+}
+
+void MainWindow::MakePaneEntries(QMenu& menu)
+{
+    menu.addAction(editedDock->toggleViewAction());
+    menu.addAction(panelDock->toggleViewAction());
+    AddAction(menu, L"window.view.next-pane", QKeySequence(QStringLiteral("F6")), [this] { EnterPane(1); });
+    AddAction(menu, L"window.view.previous-pane", QKeySequence(QStringLiteral("Shift+F6")),
+              [this] { EnterPane(-1); });
 }
 
 void MainWindow::MakeLanguageMenu(QMenu& view)

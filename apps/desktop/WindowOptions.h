@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -13,6 +14,9 @@ struct WindowOptions
 {
     QString file;        ///< Empty for none.
     QString selector;    ///< What is selected at first; empty for the document defaults.
+    int page = 1;        ///< Which page is shown at first.
+    QSize size;          ///< How large the window is; invalid for as large as it wants to be.
+    QString opened;      ///< What is open in the picture; empty for nothing.
     QString screenshot;  ///< Where a picture of the window goes, without showing it; empty for none.
     QString panelFolder; ///< Empty for that which is found.
     QString language;    ///< Empty for the person's.

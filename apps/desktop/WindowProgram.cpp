@@ -1,7 +1,9 @@
 #include "apps/desktop/WindowProgram.h"
 
 #include "apps/desktop/MainWindow.h"
+#include "apps/desktop/ToolkitLanguage.h"
 #include "apps/desktop/WindowOptions.h"
+#include "apps/desktop/WindowPicture.h"
 #include "apps/desktop/WindowText.h"
 #include "apps/workbench/PanelFolder.h"
 #include "reference_host/resources/Language.h"
@@ -52,7 +54,10 @@ bool ChooseLanguage(const QString& asked)
                                      ? ReferenceHost::FindLanguageFor(QLocale().name().toStdString())
                                      : asked.toStdString();
     QLocale::setDefault(QLocale(QString::fromStdString(language)));
-    return ReferenceHost::SetLanguage(language);
+    if (!ReferenceHost::SetLanguage(language))
+        return false;
+    TranslateToolkit(language);
+    return true;
 }
 
 /// Opens what the options name. Without anybody at the window, what fails goes to the terminal.
@@ -62,17 +67,24 @@ bool Begin(MainWindow& window, const WindowOptions& options)
                      [](const QString& message) { WriteLine(std::cerr, message); });
     if (!options.file.isEmpty() && !window.OpenFile(PathFromQString(options.file)))
         return false;
+    window.ShowPageAt(options.page - 1);
     return options.selector.isEmpty() || window.GetDocument().Select(FromQString(options.selector));
 }
 
-int WriteScreenshot(MainWindow& window, const QString& file)
+int WriteScreenshot(MainWindow& window, const WindowOptions& options)
 {
-    window.show();
-    QApplication::processEvents();
-    if (window.grab().save(file))
+    const QPixmap picture = PaintWindow(window, options.opened);
+    if (picture.isNull())
+    {
+        WriteLine(std::cerr,
+                  options.opened + QLatin1String(": there is nothing of that name to open; expected "
+                                                 "a name such as fill.presets; see --help"));
+        return kBadInput;
+    }
+    if (picture.save(options.screenshot))
         return 0;
     WriteLine(std::cerr,
-              file +
+              options.screenshot +
                   QLatin1String(": cannot be written; expected a place for a picture, such as window.png"));
     return kBadInput;
 }
@@ -91,9 +103,14 @@ int Run(const WindowOptions& options)
     MainWindow window(Workbench::ReadPanelFolder(Workbench::FindPanelFolder(chosen)));
     const bool isAttended = options.screenshot.isEmpty();
     window.SetAttended(isAttended);
+    // Pictures do not depend on how somebody left a window.
+    if (isAttended)
+        window.RestoreLayout();
+    if (options.size.isValid())
+        window.resize(options.size);
     const bool hasBegun = Begin(window, options);
     if (!isAttended)
-        return hasBegun ? WriteScreenshot(window, options.screenshot) : kBadInput;
+        return hasBegun ? WriteScreenshot(window, options) : kBadInput;
     window.show();
     return QApplication::exec();
 }

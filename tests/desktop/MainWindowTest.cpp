@@ -4,11 +4,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
 #include <QUrl>
 
 using DesktopTests::DialogAnswer;
@@ -56,6 +59,50 @@ TEST_F(MainWindow, NamesTheStepThatCanBeDoneAgain)
 
     EXPECT_EQ(Action("window.edit.redo").text(), QStringLiteral("&Redo Set Fill Colour"));
     EXPECT_FALSE(open.Window().isWindowModified());
+}
+
+TEST_F(MainWindow, KeepsWhatTheFileWasWhenToldTo)
+{
+    open.Trigger("window.file.backup");
+    Change();
+
+    open.Trigger("window.file.save");
+
+    EXPECT_EQ(DesktopTests::ReadBytes(open.GetFile().string() + "~"), FourBoxes().Text());
+}
+
+TEST_F(MainWindow, RemembersWhetherToKeepWhatFilesWere)
+{
+    open.Trigger("window.file.backup");
+
+    open.Reopen();
+
+    EXPECT_TRUE(Action("window.file.backup").isChecked());
+}
+
+TEST_F(MainWindow, TellsWhichFileWasWritten)
+{
+    Change();
+
+    open.Trigger("window.file.save");
+
+    EXPECT_EQ(open.Window().statusBar()->currentMessage().toStdString(), open.GetFile().string() + ": saved");
+}
+
+TEST_F(MainWindow, LeavesTheKeyboardInTheFieldWhenItSaves)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&open.Window()));
+    open.Select(L"id:1/1");
+    auto* const field = open.Find<QWidget>("outline.width").findChild<QDoubleSpinBox*>();
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClicks(field, QStringLiteral("2"));
+
+    open.Trigger("window.file.save");
+
+    EXPECT_EQ(QApplication::focusWidget(), field);
+    EXPECT_FALSE(open.GetDocument().IsModified());
+    EXPECT_EQ(open.Shown("outline.width"), "2.00 mm");
 }
 
 TEST_F(MainWindow, SelectsWhatIsSelectedOnTheCanvas)

@@ -44,13 +44,6 @@ private:
 [[maybe_unused]] const testing::Environment* const environment =
     testing::AddGlobalTestEnvironment(std::make_unique<ApplicationEnvironment>().release());
 
-/// Entries without what marks the letters that choose them.
-QString Plain(QString text)
-{
-    const QChar kept(1);
-    return text.replace(QLatin1String("&&"), kept).remove(QLatin1Char('&')).replace(kept, QLatin1Char('&'));
-}
-
 /// The text of a field, or what stands there instead of one in angle brackets.
 std::string Content(const QLineEdit& field)
 {
@@ -64,9 +57,23 @@ OpenWindow::OpenWindow(const FlatDrawing& drawing) : file(folder.Write("drawing.
 {
     ReferenceHost::SetLanguage("en");
     QLocale::setDefault(QLocale(QLocale::English));
+    Open();
+}
+
+void OpenWindow::Open()
+{
     window.emplace(Workbench::ReadPanelFolder(SHIPPED_PANELS));
     EXPECT_TRUE(window->OpenFile(file));
     window->show();
+    QApplication::processEvents();
+}
+
+void OpenWindow::Reopen()
+{
+    EXPECT_TRUE(window->close());
+    window.reset();
+    Open();
+    window->RestoreLayout();
     QApplication::processEvents();
 }
 
@@ -84,7 +91,7 @@ std::string OpenWindow::Shown(const char* row)
         return list->lineEdit() != nullptr ? Content(*list->lineEdit())
                : list->currentIndex() < 0  ? "<" + list->placeholderText().toStdString() + ">"
                                            : list->currentText().toStdString();
-    return Plain(control.findChild<QToolButton*>()->text()).toStdString();
+    return WithoutMnemonics(control.findChild<QToolButton*>()->text()).toStdString();
 }
 
 QMenu& OpenWindow::OpenMenu(const char* button)
@@ -104,7 +111,7 @@ QStringList OpenWindow::Entries(const char* button)
     {
         const QString mark = QLatin1String(!action->isEnabled() ? "-" : action->isChecked() ? "*" : "");
         if (!action->isSeparator())
-            entries.append(mark + Plain(action->text()));
+            entries.append(mark + WithoutMnemonics(action->text()));
     }
     menu.close();
     return entries;
@@ -115,7 +122,7 @@ void OpenWindow::Choose(const char* button, const char* entry)
     QMenu& menu = OpenMenu(button);
     for (QAction* const action : menu.actions())
     {
-        if (Plain(action->text()) != QLatin1String(entry))
+        if (WithoutMnemonics(action->text()) != QString::fromUtf8(entry))
             continue;
         EXPECT_TRUE(action->isEnabled()) << entry;
         QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
@@ -160,7 +167,16 @@ void DialogAnswer::Look()
     if (dialog == nullptr || dialog->property(kIsAnswered).toBool() || given == answers.size())
         return;
     dialog->setProperty(kIsAnswered, true);
-    answers[given++](*dialog);
+    // Later, because this timer does not come due again, for a dialog that the answer leads to, before it is
+    // done.
+    QMetaObject::invokeMethod(
+        dialog, [this, dialog, place = given++] { answers[place](*dialog); }, Qt::QueuedConnection);
+}
+
+QString WithoutMnemonics(QString text)
+{
+    const QChar kept(1);
+    return text.replace(QLatin1String("&&"), kept).remove(QLatin1Char('&')).replace(kept, QLatin1Char('&'));
 }
 
 std::string ReadBytes(const std::filesystem::path& file)

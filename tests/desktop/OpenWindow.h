@@ -41,6 +41,9 @@ public:
         return configuration;
     }
 
+    /// Ends the window as it is and shows another on the same file, with what the first one remembered.
+    void Reopen();
+
     void Select(const wchar_t* selector);
 
     /// The widget of that name within the window; fails the test and throws without one.
@@ -66,6 +69,7 @@ public:
 
 private:
     static QWidget& NeedWidget(QWidget* widget, const char* name);
+    void Open();
     QMenu& OpenMenu(const char* button);
 
     WorkbenchTests::ScratchConfiguration configuration;
@@ -97,6 +101,9 @@ private:
     std::size_t given = 0;
     QTimer timer;
 };
+
+/// A text without what marks the letters that choose it.
+[[nodiscard]] QString WithoutMnemonics(QString text);
 
 /// What a file holds.
 [[nodiscard]] std::string ReadBytes(const std::filesystem::path& file);
