@@ -91,7 +91,9 @@ bool MainWindow::OpenFile(const std::filesystem::path& file)
 {
     if (!AskToKeepChanges() || !document.Open(file))
         return false;
-    AddRecentFile(PathToQString(file));
+    // What only a picture was made of was not opened by anybody.
+    if (isAttended)
+        AddRecentFile(PathToQString(file));
     ShowRecentFiles();
     return true;
 }

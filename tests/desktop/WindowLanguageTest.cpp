@@ -51,14 +51,14 @@ std::vector<QRegularExpression> EnglishAlone()
 {
     const ReferenceHost::Catalogue english = Read("en");
     const ReferenceHost::Catalogue german = Read("de");
-    std::set<OvxStringT> germanTexts;
+    std::set<QString> germanTexts;
     for (const OvxStringT& key : german.GetKeys())
-        germanTexts.insert(*german.Find(key));
+        germanTexts.insert(WithoutMnemonics(Desktop::ToQString(*german.Find(key))));
     std::vector<QRegularExpression> shapes;
     for (const OvxStringT& key : english.GetKeys())
     {
         const OvxStringT& text = *english.Find(key);
-        if (HasWords(text) && !germanTexts.contains(text))
+        if (HasWords(text) && !germanTexts.contains(WithoutMnemonics(Desktop::ToQString(text))))
             shapes.push_back(Shape(text));
     }
     return shapes;

@@ -73,7 +73,8 @@ bool NumberControl::eventFilter(QObject* watched, QEvent* event)
     switch (event->type())
     {
     case QEvent::MouseButtonPress:
-        HoldByPointer(static_cast<QWidget*>(watched));
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+            HoldByPointer(static_cast<QWidget*>(watched));
         break;
     case QEvent::MouseButtonRelease:
     case QEvent::FocusOut:

@@ -179,6 +179,15 @@ TEST_F(NumberControl, LeavesNothingOfASliderThatEscapeEnds)
     EXPECT_EQ(Steps(), 0U);
 }
 
+TEST_F(NumberControl, IsNotHeldByAnotherButton)
+{
+    open.Select(L"id:1/1");
+
+    QTest::mousePress(&Field("outline.width"), Qt::RightButton, {}, UpArrow(Field("outline.width")));
+
+    EXPECT_FALSE(open.GetDocument().GetEditor().IsGroupOpen());
+}
+
 TEST_F(NumberControl, StepsFromZeroWhereTheTargetsDiffer)
 {
     open.Select(L"id:1/1,id:1/2");
