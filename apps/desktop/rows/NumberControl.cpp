@@ -19,6 +19,10 @@ namespace Desktop
 namespace
 {
 
+/// Longer than it takes a key that is held to repeat: some platforms tell that as letting go and pressing
+/// anew.
+constexpr int kPauseInMilliseconds = 100;
+
 bool IsStepKey(int key)
 {
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
@@ -39,6 +43,9 @@ NumberControl::NumberControl(const Workbench::RowDescription& row, QWidget* pare
     }
     layout->addWidget(field, 1);
     setFocusProxy(field);
+    pause.setSingleShot(true);
+    pause.setInterval(kPauseInMilliseconds);
+    connect(&pause, &QTimer::timeout, this, &NumberControl::EndPause);
 }
 
 void NumberControl::ShowRow(const Workbench::RowReport& row)
@@ -80,6 +87,7 @@ bool NumberControl::eventFilter(QObject* watched, QEvent* event)
     case QEvent::FocusOut:
         LetGoLater();
         break;
+    case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         if (FilterKey(*static_cast<QKeyEvent*>(event)))
@@ -92,24 +100,42 @@ bool NumberControl::eventFilter(QObject* watched, QEvent* event)
 }
 
 /// @returns whether the key was meant for the drag alone.
-bool NumberControl::FilterKey(QKeyEvent& key)
+bool NumberControl::FilterKey(const QKeyEvent& key)
 {
-    const bool isPress = key.type() == QEvent::KeyPress;
-    if (isPress && isHeld && key.key() == Qt::Key_Escape)
+    if (key.type() == QEvent::KeyRelease)
     {
-        GiveUp();
-        return true;
-    }
-    if (!IsStepKey(key.key()))
+        if (IsStepKey(key.key()) && !key.isAutoRepeat())
+            pause.start();
         return false;
-    // A key may be held for longer than its drag.
-    if (key.isAutoRepeat())
-        return !isHeld;
-    if (isPress)
-        Hold();
-    else
-        LetGoLater();
+    }
+    if (IsStepKey(key.key()))
+        return key.type() == QEvent::KeyPress && FilterStep(key.isAutoRepeat());
+    const bool isEscape = key.key() == Qt::Key_Escape;
+    if (isHeld && isEscape && key.type() == QEvent::KeyPress)
+        return GiveUp(), true;
+    // What another key does finds the drag done.
+    if (!isEscape && underPointer == nullptr)
+        EndPause();
     return false;
+}
+
+/// @returns whether the step is not to be made: a key may be held for longer than its drag.
+bool NumberControl::FilterStep(bool isRepeat)
+{
+    if (isGivenUp && pause.isActive())
+        return pause.start(), true;
+    if (isRepeat && !isHeld)
+        return true;
+    pause.stop();
+    Hold();
+    return false;
+}
+
+void NumberControl::EndPause()
+{
+    pause.stop();
+    LetGo(!isGivenUp);
+    isGivenUp = false;
 }
 
 void NumberControl::Hold()
@@ -140,12 +166,7 @@ void NumberControl::LetGo(bool commit)
 /// What is watched handles its events after the filter, and may change the number once more.
 void NumberControl::LetGoLater()
 {
-    const auto letGo = [this]
-    {
-        LetGo(!isGivenUp);
-        isGivenUp = false;
-    };
-    QMetaObject::invokeMethod(this, letGo, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &NumberControl::EndPause, Qt::QueuedConnection);
 }
 
 /// What is held is told that it was let go, and goes on no more.

@@ -3,6 +3,8 @@
 #include "apps/desktop/rows/NumberScale.h"
 #include "apps/desktop/rows/RowControl.h"
 
+#include <QTimer>
+
 class QKeyEvent;
 
 namespace Desktop
@@ -37,7 +39,9 @@ private:
     void MakeField(const Workbench::RowDescription& row);
     void FitWords();
     void MakeSlider();
-    bool FilterKey(QKeyEvent& key);
+    bool FilterKey(const QKeyEvent& key);
+    bool FilterStep(bool isRepeat);
+    void EndPause();
     void Hold();
     void HoldByPointer(QWidget* held);
     void LetGo(bool commit);
@@ -52,6 +56,7 @@ private:
     QWidget* underPointer = nullptr; ///< What the pointer holds; null while nothing is.
     bool isHeld = false;             ///< An arrow is held, or the slider: a drag goes on.
     bool isGivenUp = false;          ///< The drag was taken back while it was held.
+    QTimer pause{this}; ///< Runs since a key was let go: pressed again within that, it is still held.
 };
 
 } // namespace Desktop

@@ -7,6 +7,7 @@
 #include <QStyleOptionSlider>
 #include <QStyleOptionSpinBox>
 #include <QTest>
+#include <QTimer>
 
 using DesktopTests::OpenWindow;
 using WorkbenchTests::FourBoxes;
@@ -71,6 +72,20 @@ struct NumberControl : testing::Test
         RepeatUpKey();
     }
 
+    /// Lets go of the key for good.
+    void LetGoOfKey()
+    {
+        QTest::keyRelease(&Field("outline.width"), Qt::Key_Up);
+        WaitForPause();
+    }
+
+    void WaitForPause()
+    {
+        const auto* const pause = open.Find<QWidget>("outline.width").findChild<QTimer*>();
+        while (pause->isActive())
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+
     void RepeatUpKey()
     {
         QKeyEvent event(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier, QString(), true);
@@ -119,8 +134,7 @@ TEST_F(NumberControl, MakesOneStepOfAnArrowKeyThatIsHeld)
     open.Select(L"id:1/1");
 
     HoldUpKey();
-    QTest::keyRelease(&Field("outline.width"), Qt::Key_Up);
-    QApplication::processEvents();
+    LetGoOfKey();
 
     EXPECT_GT(Field("outline.width").value(), 3.7);
     EXPECT_EQ(Steps(), 1U);
@@ -133,8 +147,34 @@ TEST_F(NumberControl, LeavesNothingOfAHeldArrowKeyThatEscapeEnds)
     HoldUpKey();
     QTest::keyClick(&Field("outline.width"), Qt::Key_Escape);
     RepeatUpKey();
-    QTest::keyRelease(&Field("outline.width"), Qt::Key_Up);
-    QApplication::processEvents();
+    LetGoOfKey();
+
+    EXPECT_EQ(open.Shown("outline.width"), "3.50 mm");
+    EXPECT_EQ(Steps(), 0U);
+}
+
+TEST_F(NumberControl, MakesOneStepOfAHeldKeyThatThePlatformTellsAsPressedAgain)
+{
+    open.Select(L"id:1/1");
+    QDoubleSpinBox& field = Field("outline.width");
+    field.setFocus();
+
+    for (int repeat = 0; repeat < 3; ++repeat)
+        QTest::keyClick(&field, Qt::Key_Up);
+    WaitForPause();
+
+    EXPECT_EQ(open.Shown("outline.width"), "3.80 mm");
+    EXPECT_EQ(Steps(), 1U);
+}
+
+TEST_F(NumberControl, HasEndedADragBeforeAnotherKeyIsTaken)
+{
+    open.Select(L"id:1/1");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&open.Window()));
+    Field("outline.width").setFocus();
+    QTest::keyClick(&Field("outline.width"), Qt::Key_Up);
+
+    QTest::keyClick(&Field("outline.width"), Qt::Key_Z, Qt::ControlModifier);
 
     EXPECT_EQ(open.Shown("outline.width"), "3.50 mm");
     EXPECT_EQ(Steps(), 0U);
@@ -193,7 +233,7 @@ TEST_F(NumberControl, StepsFromZeroWhereTheTargetsDiffer)
     open.Select(L"id:1/1,id:1/2");
 
     QTest::keyClick(&Field("outline.width"), Qt::Key_Up);
-    QApplication::processEvents();
+    WaitForPause();
 
     EXPECT_EQ(open.Shown("outline.width"), "0.10 mm");
 }
@@ -204,8 +244,7 @@ TEST_F(NumberControl, WritesTheDefaultsWhenADragEnds)
 
     HoldUpKey();
     EXPECT_EQ(Steps(), 0U);
-    QTest::keyRelease(&Field("outline.width"), Qt::Key_Up);
-    QApplication::processEvents();
+    LetGoOfKey();
 
     EXPECT_GT(Field("outline.width").value(), 0.2);
     EXPECT_EQ(Steps(), 1U);
