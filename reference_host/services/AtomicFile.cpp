@@ -1,5 +1,6 @@
 #include "reference_host/services/AtomicFile.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
@@ -63,6 +64,9 @@ Path FolderOf(const Path& file)
     return file.has_parent_path() ? file.parent_path() : Path(".");
 }
 
+/// As many bytes as are written before it is told how many there were.
+constexpr std::size_t kWrittenAtOnce = std::size_t{1} << 20U;
+
 /// Keeps the old file under its second name, which both names share until the new file takes the first.
 void KeepBackup(const Path& file)
 {
@@ -78,13 +82,21 @@ void KeepBackup(const Path& file)
 
 #if defined(_WIN32)
 
-Path WriteTemporary(const Path& file, std::string_view bytes)
+Path WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::Written& written)
 {
     Path temporary = file;
     temporary += ".new";
     Leftover leftover(temporary);
     std::ofstream stream(temporary, std::ios::binary | std::ios::trunc);
-    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    std::size_t done = 0;
+    while (stream && done < bytes.size())
+    {
+        const std::string_view piece = bytes.substr(done, kWrittenAtOnce);
+        stream.write(piece.data(), static_cast<std::streamsize>(piece.size()));
+        done += piece.size();
+        if (written)
+            written(done);
+    }
     stream.close();
     if (!stream)
         throw std::system_error(std::make_error_code(std::errc::io_error), "the bytes cannot be written");
@@ -127,16 +139,20 @@ private:
     int number;
 };
 
-void WriteAll(int descriptor, std::string_view bytes)
+void WriteAll(int descriptor, std::string_view bytes, const StagedFile::Written& written)
 {
-    while (!bytes.empty())
+    std::size_t done = 0;
+    while (done < bytes.size())
     {
-        const ssize_t written = write(descriptor, bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
+        const std::string_view piece = bytes.substr(done, kWrittenAtOnce);
+        const ssize_t length = write(descriptor, piece.data(), piece.size());
+        if (length < 0 && errno == EINTR)
             continue;
-        if (written < 0)
+        if (length < 0)
             Fail("the bytes cannot be written");
-        bytes.remove_prefix(static_cast<std::size_t>(written));
+        done += static_cast<std::size_t>(length);
+        if (written)
+            written(done);
     }
 }
 
@@ -166,14 +182,14 @@ void TakeOver(int descriptor, const Path& old)
         Fail("the permissions cannot be kept");
 }
 
-Path WriteTemporary(const Path& file, std::string_view bytes)
+Path WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::Written& written)
 {
     std::string name = (FolderOf(file) / ("." + file.filename().string() + ".XXXXXX")).string();
     Descriptor descriptor(mkstemp(name.data()));
     if (descriptor.Get() < 0)
         Fail("no file can be made beside it");
     Leftover leftover(name);
-    WriteAll(descriptor.Get(), bytes);
+    WriteAll(descriptor.Get(), bytes, written);
     TakeOver(descriptor.Get(), file);
     if (fsync(descriptor.Get()) != 0 || !descriptor.Close())
         Fail("the bytes cannot be written");
@@ -193,20 +209,38 @@ void FlushFolder(const Path& folder)
 
 } // namespace
 
-void WriteFileAtomically(const Path& target, std::string_view bytes, Backup backup)
+StagedFile::StagedFile(const Path& target, std::string_view bytes, const Written& written)
+    : file(FollowLinks(target))
 {
-    const Path file = FollowLinks(target);
     const auto status = std::filesystem::status(file);
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
         throw std::system_error(std::make_error_code(std::errc::invalid_argument),
                                 "what is there is no regular file");
-    const Path temporary = WriteTemporary(file, bytes);
-    Leftover leftover(temporary);
-    if (backup == Backup::Keep && std::filesystem::exists(status))
+    temporary = WriteTemporary(file, bytes, written);
+}
+
+StagedFile::StagedFile(StagedFile&& other) noexcept
+    : file(std::move(other.file)), temporary(std::exchange(other.temporary, {}))
+{
+}
+
+StagedFile::~StagedFile()
+{
+    const Leftover leftover(temporary);
+}
+
+void StagedFile::TakePlace(Backup backup)
+{
+    if (backup == Backup::Keep && std::filesystem::exists(file))
         KeepBackup(file);
     std::filesystem::rename(temporary, file);
-    leftover.Keep();
+    temporary.clear();
     FlushFolder(FolderOf(file));
+}
+
+void WriteFileAtomically(const Path& target, std::string_view bytes, Backup backup)
+{
+    StagedFile(target, bytes).TakePlace(backup);
 }
 
 } // namespace ReferenceHost
