@@ -80,10 +80,15 @@ std::string AutomaticStyleEdits::AddStyle(StyleFamily family, StyleWish wish)
     return added.back().name;
 }
 
-void AutomaticStyleEdits::Finish()
+void AutomaticStyleEdits::Finish(ProgressSpan progress)
 {
+    progress.Start(changed.size());
+    std::size_t done = 0;
     for (const auto& [record, groups] : changed)
+    {
+        progress.Reach(done++);
         FinishStyle(*record, groups);
+    }
     WriteAdded();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/SavedPart.h"
 #include "reference_host/document/SavingContext.h"
 #include "reference_host/document/StyleElementEdits.h"
@@ -48,7 +49,7 @@ public:
     [[nodiscard]] PropertyValues FindRepeated(const StyleRecord& record, const PropertyValues& changes) const;
 
     /// Makes the edits. Once, after all else.
-    void Finish();
+    void Finish(ProgressSpan progress);
 
 private:
     /// Places that refer to one automatic style and shall have the same instead.

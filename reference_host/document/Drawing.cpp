@@ -2,6 +2,7 @@
 
 #include "reference_host/document/DrawingData.h"
 #include "reference_host/document/DrawingReader.h"
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/StyleReader.h"
 #include "reference_host/document/picture/PictureReader.h"
 #include "reference_host/style_model/CategoryRegistry.h"
@@ -71,10 +72,13 @@ std::unique_ptr<Drawing> Finish(std::unique_ptr<DrawingData> data)
 } // namespace
 
 std::unique_ptr<Drawing> Drawing::Open(const std::filesystem::path& file, std::vector<std::string>& warnings,
-                                       const std::vector<PropertyMapping>& extensions)
+                                       const std::vector<PropertyMapping>& extensions,
+                                       const ProgressListener& progress)
 {
+    ProgressMeter meter(progress);
     auto data = std::make_unique<DrawingData>(file, extensions);
-    DrawingReader(*data, warnings).Read(DrawingReader::SheetLinks::Follow);
+    DrawingReader(*data, warnings, ProgressSpan(meter)).Read(DrawingReader::SheetLinks::Follow);
+    meter.Finish();
     return Finish(std::move(data));
 }
 
@@ -160,9 +164,12 @@ std::optional<std::vector<OvxStringT>> Drawing::GetDefinedNames(const Styles::Pr
     return names;
 }
 
-DrawingPicture Drawing::ReadPicture() const
+DrawingPicture Drawing::ReadPicture(const ProgressListener& progress) const
 {
-    return PictureReader(*data).Read();
+    ProgressMeter meter(progress);
+    DrawingPicture picture = PictureReader(*data).Read(ProgressSpan(meter));
+    meter.Finish();
+    return picture;
 }
 
 const std::vector<Styles::PropertyKey>& Drawing::GetCategories() const noexcept

@@ -8,6 +8,7 @@
 #include "reference_host/document/DocumentError.h"
 #include "reference_host/document/DrawingObject.h"
 #include "reference_host/document/DrawingPage.h"
+#include "reference_host/document/Progress.h"
 #include "reference_host/document/PropertyMapping.h"
 #include "reference_host/style_model/NamedStyleSheet.h"
 
@@ -28,7 +29,8 @@ class History;
 /// How Drawing::Save() goes about it.
 struct SaveOptions
 {
-    bool keepBackup = false; ///< A file that is there already is kept as "NAME~".
+    bool keepBackup = false;        ///< A file that is there already is kept as "NAME~".
+    ProgressListener progress = {}; ///< Is told how far it is, and may stop it.
 };
 
 /// How a drawing lies on disk.
@@ -61,10 +63,13 @@ public:
     /// @param extensions properties of further categories; each of these categories becomes a substyle of
     /// every whole
     ///                   style of the drawing.
+    /// @param progress   is told how far it is, and may stop it.
     /// @throws DocumentError for everything that cannot be read; nothing is left behind.
+    /// @throws OperationCancelled
     [[nodiscard]] static std::unique_ptr<Drawing> Open(const std::filesystem::path& file,
                                                        std::vector<std::string>& warnings,
-                                                       const std::vector<PropertyMapping>& extensions = {});
+                                                       const std::vector<PropertyMapping>& extensions = {},
+                                                       const ProgressListener& progress = {});
 
     /// A drawing that lies in no file: one page with one rectangle, and nothing that is named.
     [[nodiscard]] static std::unique_ptr<Drawing>
@@ -137,10 +142,12 @@ public:
                     const OvxStringT& sheetName = {}) const;
 
     /// Reads what the drawing looks like apart from its styles: outlines, texts, pictures and definitions, as
-    /// they lie in the file. Takes about as long as opening the drawing did.
+    /// they lay in the file when the drawing was opened. Takes about as long as opening it did, and no longer
+    /// needs the file.
     ///
-    /// @throws DocumentError
-    [[nodiscard]] DrawingPicture ReadPicture() const;
+    /// @param progress is told how far it is, and may stop it.
+    /// @throws OperationCancelled
+    [[nodiscard]] DrawingPicture ReadPicture(const ProgressListener& progress = {}) const;
 
     /// The categories that every whole style has a substyle of: fill, outline, paragraph, character, then
     /// those of the extensions in the order given.
@@ -176,21 +183,26 @@ public:
     /// bytes of a drawing that was never edited, or where all edits were undone, are those that were read.
     ///
     /// @param warnings receives one line in UTF-8 for everything that the file cannot hold.
+    /// @param progress is told how far it is, and may stop it.
     /// @throws DocumentError
-    [[nodiscard]] std::string Serialise(std::vector<std::string>& warnings) const;
+    /// @throws OperationCancelled
+    [[nodiscard]] std::string Serialise(std::vector<std::string>& warnings,
+                                        const ProgressListener& progress = {}) const;
 
     /// Writes what Serialise() gives to a file, at once or not at all: a failure leaves a file that was there
     /// as it was, and nothing else behind. Permissions of such a file are kept, a symbolic link is followed.
     /// In another folder, links to style sheets are changed to lead where they have led.
     ///
-    /// Style sheets outside the drawing whose styles were changed are written before it, each in the same way
-    /// to its own file.
+    /// Style sheets outside the drawing whose styles were changed are written with it, each in the same way
+    /// to its own file: when the bytes of all files are on disk, the sheets take their places, then the
+    /// drawing.
     ///
     /// @returns the files of style sheets that were written.
     /// @throws DocumentError also when `target` is a style sheet of the drawing, or a changed one is no
     /// longer
-    ///         the file that was read; nothing is written then. A sheet that was written before another file
-    ///         fails stays written.
+    ///         the file that was read; no file is another than before then. Only where a file cannot take its
+    ///         place do those stay that had taken theirs.
+    /// @throws OperationCancelled with all files as they were, when the listener in `options` says so.
     std::vector<std::filesystem::path> Save(const std::filesystem::path& target, const SaveOptions& options,
                                             std::vector<std::string>& warnings) const;
 

@@ -61,17 +61,26 @@ std::size_t MeasureFile(const std::filesystem::path& file, const std::string& la
     return static_cast<std::size_t>(size);
 }
 
-std::string ReadBytes(const std::filesystem::path& file, const std::string& label)
+std::string ReadBytes(const std::filesystem::path& file, const std::string& label, ProgressSpan progress)
 {
     std::string bytes(MeasureFile(file, label), '\0');
+    progress.Start(bytes.size());
     errno = 0;
     std::ifstream stream(file, std::ios::binary);
     if (!stream)
         throw CannotRead(label, std::error_code(errno, std::generic_category()));
-    stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    constexpr std::size_t kAtOnce = std::size_t{1} << 20U;
+    std::size_t length = 0;
+    while (stream && length < bytes.size())
+    {
+        const std::size_t wanted = std::min(kAtOnce, bytes.size() - length);
+        stream.read(bytes.data() + length, static_cast<std::streamsize>(wanted));
+        length += static_cast<std::size_t>(stream.gcount());
+        progress.Reach(length);
+    }
     if (stream.bad())
         throw CannotRead(label, std::error_code(errno, std::generic_category()));
-    bytes.resize(static_cast<std::size_t>(stream.gcount()));
+    bytes.resize(length);
     return bytes;
 }
 
@@ -103,9 +112,10 @@ Manifest ReadManifest(std::string_view text, const std::string& label)
     return manifest;
 }
 
-std::string ReadOptional(const ZipArchive& archive, const std::string& entry)
+std::string ReadOptional(const ZipArchive& archive, const std::string& entry,
+                         const ProgressSpan& progress = {})
 {
-    return archive.Contains(entry) ? archive.Read(entry) : std::string();
+    return archive.Contains(entry) ? archive.Read(entry, progress) : std::string();
 }
 
 /// Tells whether the manifest must be read. It is left alone otherwise: programs that write sound drawings
@@ -115,7 +125,11 @@ bool NeedsManifest(std::string_view manifest, std::string_view mimetype)
     return mimetype.empty() || manifest.find("encryption-data") != std::string_view::npos;
 }
 
-void Unpack(DrawingFile& file)
+/// How much of unpacking each entry is taken for: the content is by far the largest one.
+constexpr double kContentUnpacked = 0.9;
+constexpr double kStylesUnpacked = 0.99;
+
+void Unpack(DrawingFile& file, const ProgressSpan& progress)
 {
     const ZipArchive archive(file.bytes, file.label);
     const std::string mimetype = ReadOptional(archive, "mimetype");
@@ -134,9 +148,9 @@ void Unpack(DrawingFile& file)
     if (manifest.isContentEncrypted)
         throw DocumentError("the entry is encrypted", archive.LabelOf(kContentEntry),
                             "a drawing without a password");
-    file.content = archive.Read(kContentEntry);
-    file.styles = ReadOptional(archive, "styles.xml");
-    file.meta = ReadOptional(archive, "meta.xml");
+    file.content = archive.Read(kContentEntry, progress.Part(0, kContentUnpacked));
+    file.styles = ReadOptional(archive, "styles.xml", progress.Part(kContentUnpacked, kStylesUnpacked));
+    file.meta = ReadOptional(archive, "meta.xml", progress.Part(kStylesUnpacked, 1));
 }
 
 /// Tells whether bytes can be the beginning of an XML text, in whatever encoding.
@@ -152,15 +166,16 @@ bool LooksLikeXml(std::string_view bytes)
 
 } // namespace
 
-DrawingFile ReadDrawingFile(const std::filesystem::path& path)
+DrawingFile ReadDrawingFile(const std::filesystem::path& path, const ProgressSpan& progress)
 {
+    constexpr double kRead = 0.2;
     DrawingFile file;
     file.label = path.string();
-    file.bytes = ReadBytes(path, file.label);
+    file.bytes = ReadBytes(path, file.label, progress.Part(ProgressPhase::Reading, 0, kRead));
     const bool isArchive = file.bytes.starts_with("PK\x03\x04") || file.bytes.starts_with("PK\x05\x06");
     file.form = isArchive ? DrawingForm::Zipped : DrawingForm::Flat;
     if (isArchive)
-        Unpack(file);
+        Unpack(file, progress.Part(ProgressPhase::Unpacking, kRead, 1));
     else if (!LooksLikeXml(file.bytes))
         FailNotADrawing("neither a zip archive nor XML", file.label);
     return file;

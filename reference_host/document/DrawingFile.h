@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/Drawing.h"
+#include "reference_host/document/ProgressMeter.h"
 
 #include <filesystem>
 #include <string>
@@ -27,7 +28,8 @@ struct DrawingFile
 /// @throws DocumentError when the file is missing, not a file, unreadable, empty, beyond a limit, protected,
 /// or not
 ///         a drawing. XML is not looked at yet.
-[[nodiscard]] DrawingFile ReadDrawingFile(const std::filesystem::path& path);
+[[nodiscard]] DrawingFile ReadDrawingFile(const std::filesystem::path& path,
+                                          const ProgressSpan& progress = {});
 
 /// The error for a file that the system does not let us read.
 [[nodiscard]] DocumentError CannotRead(const std::string& label, std::error_code reason);

@@ -24,6 +24,12 @@ constexpr XmlName kAutomaticStyles{Odf::kOffice, "automatic-styles"};
 constexpr XmlName kMeta{Odf::kOffice, "meta"};
 constexpr XmlName kSheetLink{OwnMarkup::kNamespace, OwnMarkup::kSheetLink};
 
+// Which share of the work is done after each stage, as measured with large drawings.
+constexpr double kFileRead = 0.08;
+constexpr double kParsed = 0.34;
+constexpr double kStylesRead = 0.48;
+constexpr double kSheetsRead = 0.55;
+
 /// Calls `visit` for each child element of `parent` that is called `name`, while its scope is in force.
 template <class Visitor>
 void ForEachChild(pugi::xml_node parent, XmlNames& names, const XmlName& name, const Visitor& visit)
@@ -38,45 +44,63 @@ void ForEachChild(pugi::xml_node parent, XmlNames& names, const XmlName& name, c
 
 } // namespace
 
-DrawingReader::DrawingReader(DrawingData& target, std::vector<std::string>& warningLines)
-    : data(target), warnings(warningLines)
+DrawingReader::DrawingReader(DrawingData& target, std::vector<std::string>& warningLines,
+                             const ProgressSpan& whole)
+    : data(target), warnings(warningLines), progress(whole)
 {
 }
 
 void DrawingReader::Read(SheetLinks links)
 {
-    data.file = ReadDrawingFile(data.path);
+    data.file = ReadDrawingFile(data.path, progress.Part(0, kFileRead));
     ReadContents(links);
 }
 
 void DrawingReader::ReadContents(SheetLinks links)
 {
     const bool isFlat = data.file.form == DrawingForm::Flat;
-    const Part content = isFlat ? Parse(data.file.bytes, nullptr) : Parse(data.file.content, "content.xml");
-    const Part packageStyles = isFlat ? Part() : Parse(data.file.styles, "styles.xml");
-    const Part packageMeta = isFlat ? Part() : Parse(data.file.meta, "meta.xml");
+    const Parts parts = ParseAll();
+    const Part& content = parts.content;
     RequireDrawing(content);
-    ReadPalette(isFlat ? content : packageMeta);
+    ReadPalette(isFlat ? content : parts.meta);
 
     StyleReader reader(data.table, colours, data.catalogue, warnings);
-    ReadStyles(reader, isFlat ? content : packageStyles, content);
+    ReadStyles(reader, isFlat ? content : parts.styles, content);
     if (reader.GetDefault() != nullptr)
         data.defaultRecord = *reader.GetDefault();
     FillDefaultStyle(*data.defaultStyle, reader.GetDefault(), data.table, warnings);
-    ReadSheetLinks(isFlat ? content : packageStyles);
+    ReadSheetLinks(isFlat ? content : parts.styles);
     OpenSheets(links);
     NamedStyleBuilder(data.table, *data.defaultStyle, data.sheet, data.appearances, warnings)
         .Build(data.catalogue);
     ReadShapes(content);
 }
 
-DrawingReader::Part DrawingReader::Parse(std::string_view text, const char* entry) const
+DrawingReader::Parts DrawingReader::ParseAll() const
+{
+    const ProgressSpan parsing = progress.Part(kFileRead, kParsed);
+    Parts parts;
+    if (data.file.form == DrawingForm::Flat)
+    {
+        parts.content = Parse(data.file.bytes, nullptr, parsing);
+        return parts;
+    }
+    const DrawingFile& file = data.file;
+    ProgressPieces pieces(parsing, file.content.size() + file.styles.size() + file.meta.size());
+    parts.content = Parse(file.content, "content.xml", pieces.Next(file.content.size()));
+    parts.styles = Parse(file.styles, "styles.xml", pieces.Next(file.styles.size()));
+    parts.meta = Parse(file.meta, "meta.xml", pieces.Next(file.meta.size()));
+    return parts;
+}
+
+DrawingReader::Part DrawingReader::Parse(std::string_view text, const char* entry,
+                                         const ProgressSpan& parsing) const
 {
     Part part;
     part.text = text;
     part.label = entry == nullptr ? data.file.label : data.file.label + ", " + entry;
     if (entry == nullptr || !text.empty())
-        part.tree = ParseXml(text, part.label);
+        part.tree = ParseXml(text, part.label, parsing);
     return part;
 }
 
@@ -142,12 +166,14 @@ void DrawingReader::ReadPaletteEntry(pugi::xml_node element, XmlNames& names)
 
 void DrawingReader::ReadStyles(StyleReader& reader, const Part& styles, const Part& content)
 {
-    const auto readContainers = [&reader](const Part& part, const XmlName& container, StyleOrigin origin)
+    const auto readContainers =
+        [&reader](const Part& part, const XmlName& container, StyleOrigin origin, const ProgressSpan& reading)
     {
         XmlNames names;
         const XmlNames::Scope scope(names, part.GetRoot());
         ForEachChild(part.GetRoot(), names, container,
-                     [&](pugi::xml_node element) { reader.ReadStyles(element, part.text, names, origin); });
+                     [&](pugi::xml_node element)
+                     { reader.ReadStyles(element, part.text, names, origin, reading); });
     };
     const auto readDeclarations = [&reader](const Part& part)
     {
@@ -156,14 +182,16 @@ void DrawingReader::ReadStyles(StyleReader& reader, const Part& styles, const Pa
         reader.ReadDeclarations(part.GetRoot(), names);
     };
     readDeclarations(styles);
-    readContainers(styles, kStyles, StyleOrigin::Named);
+    const ProgressSpan all = progress.Part(ProgressPhase::Styles, kParsed, kStylesRead);
+    constexpr double kNamed = 0.2;
+    readContainers(styles, kStyles, StyleOrigin::Named, all.Part(0, kNamed));
     data.namedDeclared = reader.GetDeclared();
     // A package declares fonts for each of its texts; those of the content stand for what shapes use. The
     // automatic styles beside the named ones belong to master pages.
     if (&styles != &content)
         readDeclarations(content);
     data.declared = reader.GetDeclared();
-    readContainers(content, kAutomaticStyles, StyleOrigin::Automatic);
+    readContainers(content, kAutomaticStyles, StyleOrigin::Automatic, all.Part(kNamed, 1));
 }
 
 void DrawingReader::ReadSheetLinks(const Part& styles)
@@ -192,7 +220,8 @@ void DrawingReader::ReadSheetLinks(const Part& styles)
 void DrawingReader::OpenSheets(SheetLinks links)
 {
     if (links == SheetLinks::Follow)
-        return data.sheets.Open(data, warnings);
+        return data.sheets.Open(data, warnings,
+                                progress.Part(ProgressPhase::StyleSheets, kStylesRead, kSheetsRead));
     for (const StyleSheetLink& link : data.sheetLinks)
         warnings.Add("style sheet \"" + OvxUtils::ToUtf8(link.name) +
                      "\": links in style sheets are not followed; it was passed over");
@@ -204,12 +233,13 @@ void DrawingReader::ReadShapes(const Part& content)
     const pugi::xml_node root = content.GetRoot();
     const XmlNames::Scope scope(names, root);
     ShapeReader reader(data.catalogue, data.cascades, content.text, names, warnings);
+    const ProgressSpan reading = progress.Part(ProgressPhase::Shapes, kSheetsRead, 1);
     ForEachChild(root, names, kBody,
                  [&](pugi::xml_node body)
                  {
                      ForEachChild(body, names, kDrawing,
                                   [&](pugi::xml_node drawing)
-                                  { reader.Read(drawing, data.pages, data.objects); });
+                                  { reader.Read(drawing, data.pages, data.objects, reading); });
                  });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/DrawingData.h"
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/StyleReader.h"
 #include "reference_host/document/Warnings.h"
 #include "reference_host/document/XmlNames.h"
@@ -27,7 +28,8 @@ public:
     };
 
     /// Borrows both; `target` holds nothing of the file yet.
-    DrawingReader(DrawingData& target, std::vector<std::string>& warningLines);
+    DrawingReader(DrawingData& target, std::vector<std::string>& warningLines,
+                  const ProgressSpan& whole = {});
 
     /// Reads the file that the drawing's path names.
     ///
@@ -53,7 +55,16 @@ private:
         }
     };
 
-    [[nodiscard]] Part Parse(std::string_view text, const char* entry) const;
+    /// The texts of the drawing as parts: of a flat file the content stands for all.
+    struct Parts
+    {
+        Part content;
+        Part styles;
+        Part meta;
+    };
+
+    [[nodiscard]] Parts ParseAll() const;
+    [[nodiscard]] Part Parse(std::string_view text, const char* entry, const ProgressSpan& parsing) const;
     void RequireDrawing(const Part& content);
     void ReadPalette(const Part& part);
     void ReadPaletteEntry(pugi::xml_node element, XmlNames& names);
@@ -64,6 +75,7 @@ private:
 
     DrawingData& data;
     Warnings warnings;
+    ProgressSpan progress;
     PaletteColours colours;
 };
 

@@ -21,6 +21,12 @@ namespace
 
 constexpr std::string_view kManifestEntry = "META-INF/manifest.xml";
 
+// Which share of the work is done after each stage, as measured with large drawings of which much was edited.
+constexpr double kLoaded = 0.3;
+constexpr double kShapesCompared = 0.65;
+constexpr double kCompared = 0.75;
+constexpr double kComposed = 0.85; ///< In a package.
+
 /// The text of an entry that a package does not have, with a root and nothing in it.
 std::string EmptyDocument(std::string_view root)
 {
@@ -31,11 +37,12 @@ std::string EmptyDocument(std::string_view root)
 /// An entry of a package that is spliced into.
 struct Entry
 {
-    Entry(std::string_view entryName, std::string_view text, std::string_view root, const std::string& file)
+    Entry(std::string_view entryName, std::string_view text, std::string_view root, const std::string& file,
+          const ProgressSpan& progress)
         : name(entryName),
           isNew(text.empty()),
           made(isNew ? EmptyDocument(root) : std::string()),
-          part(isNew ? std::string_view(made) : text, file + ", " + std::string(entryName))
+          part(isNew ? std::string_view(made) : text, file + ", " + std::string(entryName), progress)
     {
     }
 
@@ -82,33 +89,38 @@ DrawingWriter::DrawingWriter(DrawingData& drawing, std::vector<std::string>& war
 {
 }
 
-std::string DrawingWriter::Write()
+std::string DrawingWriter::Write(const ProgressSpan& whole)
 {
+    progress = whole;
     return data.file.form == DrawingForm::Flat ? WriteFlat() : WritePackage();
 }
 
 std::string DrawingWriter::WriteFlat()
 {
-    SavedPart part(data.file.bytes, data.file.label);
+    SavedPart part(data.file.bytes, data.file.label, progress.Part(0, kLoaded));
     EditAll(part, part, part);
-    return part.GetEdits().Apply();
+    return part.GetEdits().Apply(progress.Part(ProgressPhase::Composing, kCompared, 1));
 }
 
 std::string DrawingWriter::WritePackage()
 {
     const std::string& label = data.file.label;
-    Entry content("content.xml", data.file.content, "document-content", label);
-    Entry styles("styles.xml", data.file.styles, "document-styles", label);
-    Entry meta("meta.xml", data.file.meta, "document-meta", label);
+    const DrawingFile& file = data.file;
+    ProgressPieces loading(progress.Part(0, kLoaded),
+                           file.content.size() + file.styles.size() + file.meta.size());
+    Entry content("content.xml", file.content, "document-content", label, loading.Next(file.content.size()));
+    Entry styles("styles.xml", file.styles, "document-styles", label, loading.Next(file.styles.size()));
+    Entry meta("meta.xml", file.meta, "document-meta", label, loading.Next(file.meta.size()));
     EditAll(styles.part, content.part, meta.part);
 
     std::vector<ZipReplacement> replacements;
     std::vector<std::string> added;
+    const ProgressSpan composing = progress.Part(ProgressPhase::Composing, kCompared, kComposed);
     for (Entry* const entry : {&content, &styles, &meta})
     {
         if (entry->part.GetEdits().IsEmpty())
             continue;
-        std::string text = entry->part.GetEdits().Apply();
+        std::string text = entry->part.GetEdits().Apply(composing);
         if (text == entry->part.GetSource().GetText())
             continue;
         if (entry->isNew)
@@ -122,7 +134,7 @@ std::string DrawingWriter::WritePackage()
         if (auto text = ExtendManifest(archive.Read(manifest), archive.LabelOf(manifest), added, warnings))
             replacements.push_back({manifest, std::move(*text)});
     }
-    return RewriteZip(data.file.bytes, replacements, label);
+    return RewriteZip(data.file.bytes, replacements, label, progress.Part(kComposed, 1));
 }
 
 void DrawingWriter::EditAll(SavedPart& styles, SavedPart& content, SavedPart& meta)
@@ -133,12 +145,23 @@ void DrawingWriter::EditAll(SavedPart& styles, SavedPart& content, SavedPart& me
     named.Write();
     AutomaticStyleEdits automatic(context, content, styles, named.GetRenamed());
     ShapeEdits shapes(context, content, named, automatic);
-    for (DrawingObject& object : data.objects)
-        shapes.Write(object);
-    automatic.Finish();
+    EditShapes(shapes);
+    automatic.Finish(progress.Part(ProgressPhase::Comparing, kShapesCompared, kCompared));
     RenameStyleReferences(named.GetRenamed(), content);
     if (&styles != &content)
         RenameStyleReferences(named.GetRenamed(), styles);
+}
+
+void DrawingWriter::EditShapes(ShapeEdits& shapes)
+{
+    ProgressSpan comparing = progress.Part(ProgressPhase::Comparing, kLoaded, kShapesCompared);
+    comparing.Start(data.objects.size());
+    std::size_t done = 0;
+    for (DrawingObject& object : data.objects)
+    {
+        comparing.Reach(done++);
+        shapes.Write(object);
+    }
 }
 
 void DrawingWriter::MoveSheetLinks(SavedPart& styles)

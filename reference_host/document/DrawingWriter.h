@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/DrawingData.h"
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/SavedPart.h"
 #include "reference_host/document/SavingContext.h"
 #include "reference_host/document/Warnings.h"
@@ -13,6 +14,8 @@
 
 namespace ReferenceHost
 {
+
+class ShapeEdits;
 
 /// Splices what the model says otherwise than the file into the file's bytes.
 class DrawingWriter
@@ -29,11 +32,12 @@ public:
 
     /// @returns the bytes of the whole file. Once only.
     /// @throws DocumentError
-    [[nodiscard]] std::string Write();
+    [[nodiscard]] std::string Write(const ProgressSpan& whole = {});
 
 private:
     [[nodiscard]] std::string WriteFlat();
     [[nodiscard]] std::string WritePackage();
+    void EditShapes(ShapeEdits& shapes);
     void EditAll(SavedPart& styles, SavedPart& content, SavedPart& meta);
     void MoveSheetLinks(SavedPart& styles);
 
@@ -41,6 +45,7 @@ private:
     Warnings warnings;
     SavingContext context;
     std::filesystem::path folder; ///< Where the file goes.
+    ProgressSpan progress;
 };
 
 } // namespace ReferenceHost

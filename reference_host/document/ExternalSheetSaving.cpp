@@ -37,52 +37,71 @@ void DemandUnchangedFile(const ExternalSheet& sheet)
 }
 
 /// The bytes of the sheet as its styles stand now.
-std::string BytesOf(const ExternalSheet& sheet, std::vector<std::string>& warnings)
+std::string BytesOf(const ExternalSheet& sheet, std::vector<std::string>& warnings,
+                    const ProgressSpan& progress)
 {
     std::vector<std::string> lines;
-    std::string bytes = DrawingWriter(*sheet.data, lines).Write();
+    std::string bytes = DrawingWriter(*sheet.data, lines).Write(progress);
     for (const std::string& line : lines)
         warnings.push_back(sheet.data->path.string() + ": " + line);
     return bytes;
 }
 
-} // namespace
-
-ExternalSheetSaving::ExternalSheetSaving(const ExternalSheets& sheets, const std::filesystem::path& target,
-                                         std::vector<std::string>& warnings)
+/// Does what may fail with one sheet.
+template <class Work>
+auto Attempt(const ExternalSheet& sheet, const Work& work)
 {
-    for (const std::unique_ptr<ExternalSheet>& sheet : sheets.GetAll())
+    try
     {
-        DemandOtherFile(*sheet, target);
-        const bool mayDiffer =
-            sheet->link.isEditable && sheet->journal != nullptr && sheet->journal->HasHeard();
-        if (!mayDiffer)
-            continue;
-        std::string bytes = BytesOf(*sheet, warnings);
-        if (bytes == KnownBytes(*sheet))
-            continue;
-        DemandUnchangedFile(*sheet);
-        changed.push_back({sheet.get(), std::move(bytes)});
+        return work();
+    }
+    catch (const std::system_error& error)
+    {
+        throw DocumentError(std::string("the style sheet cannot be saved (") + error.what() + ")",
+                            sheet.data->path.string(), "a folder that can be written to, with enough room");
     }
 }
 
-std::vector<std::filesystem::path> ExternalSheetSaving::Write(Backup backup)
+} // namespace
+
+ExternalSheetSaving::ExternalSheetSaving(const ExternalSheets& sheets, const std::filesystem::path& target,
+                                         std::vector<std::string>& warnings, const ProgressSpan& progress)
+{
+    ProgressPieces pieces(progress, sheets.GetAll().size());
+    for (const std::unique_ptr<ExternalSheet>& sheet : sheets.GetAll())
+    {
+        DemandOtherFile(*sheet, target);
+        const ProgressSpan saving = pieces.Next(1);
+        const bool mayDiffer =
+            sheet->link.isEditable && sheet->journal != nullptr && sheet->journal->HasHeard();
+        if (mayDiffer)
+            Add(*sheet, warnings, saving);
+    }
+}
+
+void ExternalSheetSaving::Add(ExternalSheet& sheet, std::vector<std::string>& warnings,
+                              const ProgressSpan& progress)
+{
+    constexpr double kSerialised = 0.9;
+    std::string bytes = BytesOf(sheet, warnings, progress.Part(0, kSerialised));
+    if (bytes == KnownBytes(sheet))
+        return;
+    DemandUnchangedFile(sheet);
+    ProgressSpan writing = progress.Part(ProgressPhase::Writing, kSerialised, 1);
+    writing.Start(bytes.size());
+    const auto tell = [&writing](std::size_t written) { writing.Reach(written); };
+    StagedFile file = Attempt(sheet, [&] { return StagedFile(sheet.data->path, bytes, tell); });
+    changed.push_back({&sheet, std::move(bytes), std::move(file)});
+}
+
+std::vector<std::filesystem::path> ExternalSheetSaving::TakePlaces(Backup backup)
 {
     std::vector<std::filesystem::path> written;
     for (Changed& each : changed)
     {
-        const std::filesystem::path& file = each.sheet->data->path;
-        try
-        {
-            WriteFileAtomically(file, each.bytes, backup);
-        }
-        catch (const std::system_error& error)
-        {
-            throw DocumentError(std::string("the style sheet cannot be saved (") + error.what() + ")",
-                                file.string(), "a folder that can be written to, with enough room");
-        }
+        Attempt(*each.sheet, [&] { each.file.TakePlace(backup); });
         each.sheet->savedBytes = std::move(each.bytes);
-        written.push_back(file);
+        written.push_back(each.sheet->data->path);
     }
     return written;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/ExternalSheets.h"
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/services/AtomicFile.h"
 
 #include <filesystem>
@@ -12,32 +13,35 @@ namespace ReferenceHost
 
 /// Saves the style sheets outside a drawing that were changed from it, each to its own file.
 ///
-/// Everything that can be known before is found out in the constructor; a failure there leaves all files as
-/// they are. What cannot be changed by its link is never written.
+/// Everything but the last step is done in the constructor; a failure there, and giving up before the last
+/// step, leaves all files as they are. What cannot be changed by its link is never written.
 class ExternalSheetSaving
 {
 public:
-    /// Borrows the sheets.
+    /// Borrows the sheets, and writes the new bytes of those that were changed beside their files.
     ///
     /// @param target   where the drawing is about to be saved.
     /// @param warnings receives what the files cannot hold.
     /// @throws DocumentError when `target` is one of the sheets, or somebody else has changed the file of a
-    ///         changed sheet since it was read or saved.
+    ///         changed sheet since it was read or saved, or one cannot be written.
     ExternalSheetSaving(const ExternalSheets& sheets, const std::filesystem::path& target,
-                        std::vector<std::string>& warnings);
+                        std::vector<std::string>& warnings, const ProgressSpan& progress);
 
-    /// Writes the changed sheets, each at once or not at all.
+    /// Lets the changed sheets take the places of their files.
     ///
     /// @returns the files that were written.
-    /// @throws DocumentError for the first that cannot be written; those before it are saved.
-    std::vector<std::filesystem::path> Write(Backup backup);
+    /// @throws DocumentError for the first that cannot take its place; those before it are saved.
+    std::vector<std::filesystem::path> TakePlaces(Backup backup);
 
 private:
     struct Changed
     {
         ExternalSheet* sheet;
         std::string bytes;
+        StagedFile file;
     };
+
+    void Add(ExternalSheet& sheet, std::vector<std::string>& warnings, const ProgressSpan& progress);
 
     std::vector<Changed> changed;
 };

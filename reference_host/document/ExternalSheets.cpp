@@ -79,13 +79,15 @@ ExternalSheet::~ExternalSheet() = default;
 ExternalSheets::ExternalSheets() = default;
 ExternalSheets::~ExternalSheets() = default;
 
-void ExternalSheets::Open(DrawingData& drawing, Warnings& warnings)
+void ExternalSheets::Open(DrawingData& drawing, Warnings& warnings, const ProgressSpan& progress)
 {
+    ProgressPieces pieces(progress, drawing.sheetLinks.size());
     for (const StyleSheetLink& link : drawing.sheetLinks)
     {
+        const ProgressSpan opening = pieces.Next(1);
         try
         {
-            sheets.push_back(OpenOne(link, drawing, warnings));
+            sheets.push_back(OpenOne(link, drawing, warnings, opening));
         }
         catch (const DocumentError& error)
         {
@@ -95,14 +97,14 @@ void ExternalSheets::Open(DrawingData& drawing, Warnings& warnings)
 }
 
 std::unique_ptr<ExternalSheet> ExternalSheets::OpenOne(const StyleSheetLink& link, DrawingData& drawing,
-                                                       Warnings& warnings) const
+                                                       Warnings& warnings, const ProgressSpan& progress) const
 {
     const std::filesystem::path file = FindFile(link, drawing);
     DemandNew(link, file, *this);
     auto sheet = std::make_unique<ExternalSheet>(link);
     sheet->data = std::make_unique<DrawingData>(file, drawing.extensions);
     std::vector<std::string> lines;
-    DrawingReader(*sheet->data, lines).Read(DrawingReader::SheetLinks::PassOver);
+    DrawingReader(*sheet->data, lines, progress).Read(DrawingReader::SheetLinks::PassOver);
     for (const std::string& line : lines)
         warnings.Add(file.string() + ": " + line);
     PutOutside(*sheet, drawing);

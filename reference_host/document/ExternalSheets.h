@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/SheetJournal.h"
 #include "reference_host/document/StyleSheetLink.h"
 
@@ -49,7 +50,7 @@ public:
     /// none of that name itself. The drawing's default style is complete, its own named styles come later.
     ///
     /// A sheet that cannot be used is left out with one warning. Links in sheets are not followed.
-    void Open(DrawingData& drawing, Warnings& warnings);
+    void Open(DrawingData& drawing, Warnings& warnings, const ProgressSpan& progress);
 
     /// Makes the styles of all sheets tell a history of their changes; it is borrowed.
     void StartHistory(IStyleJournal& history);
@@ -67,7 +68,8 @@ public:
 
 private:
     [[nodiscard]] std::unique_ptr<ExternalSheet> OpenOne(const StyleSheetLink& link, DrawingData& drawing,
-                                                         Warnings& warnings) const;
+                                                         Warnings& warnings,
+                                                         const ProgressSpan& progress) const;
 
     std::vector<std::unique_ptr<ExternalSheet>> sheets; ///< None null.
 };

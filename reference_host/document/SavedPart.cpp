@@ -18,14 +18,27 @@ constexpr std::array<std::string_view, 8> kContainers{
 
 } // namespace
 
-SavedPart::SavedPart(std::string_view text, const std::string& label) : source(text, label), edits(source)
+namespace
 {
-    Index(source.GetRoot());
+
+/// How much of the work is done when there is a tree, before it is indexed.
+constexpr double kParsed = 0.4;
+
+} // namespace
+
+SavedPart::SavedPart(std::string_view text, const std::string& label, const ProgressSpan& progress)
+    : source(text, label, progress.Part(0, kParsed)), edits(source)
+{
+    ProgressSpan indexing = progress.Part(ProgressPhase::Comparing, kParsed, 1);
+    indexing.Start(text.size());
+    Index(source.GetRoot(), indexing);
 }
 
-void SavedPart::Index(pugi::xml_node element)
+void SavedPart::Index(pugi::xml_node element, ProgressSpan& progress)
 {
-    elements.emplace(source.BeginOf(element), element);
+    const std::size_t place = source.BeginOf(element);
+    progress.Reach(place);
+    elements.emplace(place, element);
     for (const pugi::xml_attribute attribute : element.attributes())
     {
         const std::string_view name = attribute.name();
@@ -37,7 +50,7 @@ void SavedPart::Index(pugi::xml_node element)
     for (const pugi::xml_node child : element.children())
     {
         if (child.type() == pugi::node_element)
-            Index(child);
+            Index(child, progress);
     }
 }
 

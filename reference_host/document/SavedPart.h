@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/XmlEdits.h"
 #include "reference_host/document/XmlSource.h"
 
@@ -20,8 +21,9 @@ class SavedPart
 public:
     /// Borrows the text.
     ///
-    /// @param label names the text in errors.
-    SavedPart(std::string_view text, const std::string& label);
+    /// @param label    names the text in errors.
+    /// @param progress of reading it.
+    SavedPart(std::string_view text, const std::string& label, const ProgressSpan& progress = {});
 
     [[nodiscard]] const XmlSource& GetSource() const noexcept { return source; }
 
@@ -40,7 +42,7 @@ public:
     [[nodiscard]] pugi::xml_node FindContainer(std::string_view local) const;
 
 private:
-    void Index(pugi::xml_node element);
+    void Index(pugi::xml_node element, ProgressSpan& progress);
 
     XmlSource source;
     XmlEdits edits;

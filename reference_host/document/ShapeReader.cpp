@@ -58,9 +58,12 @@ ShapeReader::ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, s
 }
 
 void ShapeReader::Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages,
-                       std::deque<DrawingObject>& objects)
+                       std::deque<DrawingObject>& objects, const ProgressSpan& reading)
 {
     allObjects = &objects;
+    progress = reading;
+    start = PlaceOfElement(drawing, source);
+    progress.Start(source.size() - start);
     std::vector<pugi::xml_node> elements;
     for (const pugi::xml_node element : drawing.children())
     {
@@ -99,6 +102,7 @@ void ShapeReader::ReadMember(pugi::xml_node element, const Place& place)
     if (kind == kKinds.end())
         return;
     DrawingObject& object = AddObject(element, place);
+    progress.Reach(object.place - start);
     object.kind = kind->name;
     object.isGroup = name == kGroup;
     if (object.isGroup)

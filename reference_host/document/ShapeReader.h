@@ -3,6 +3,7 @@
 #include "reference_host/document/CascadeStyles.h"
 #include "reference_host/document/DrawingObject.h"
 #include "reference_host/document/DrawingPage.h"
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/StyleRecord.h"
 #include "reference_host/document/TextReader.h"
 #include "reference_host/document/Warnings.h"
@@ -12,6 +13,7 @@
 
 #include <pugixml.hpp>
 
+#include <cstddef>
 #include <deque>
 #include <string_view>
 #include <vector>
@@ -28,7 +30,8 @@ public:
                 XmlNames& xmlNames, Warnings& reports);
 
     /// Reads all pages in `drawing`, the element office:drawing, whose scope is in force.
-    void Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages, std::deque<DrawingObject>& objects);
+    void Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages, std::deque<DrawingObject>& objects,
+              const ProgressSpan& reading);
 
 private:
     /// Where shapes are added: to a page or to a group on it.
@@ -52,6 +55,8 @@ private:
     TextReader text;
     std::string_view source;
     std::deque<DrawingObject>* allObjects = nullptr;
+    ProgressSpan progress; ///< Of the text from `start` on.
+    std::size_t start = 0;
 };
 
 } // namespace ReferenceHost

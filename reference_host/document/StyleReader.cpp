@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <iterator>
 #include <utility>
 
 namespace ReferenceHost
@@ -109,10 +110,14 @@ void StyleReader::ReadDeclaration(pugi::xml_node element, XmlNames& names)
 }
 
 void StyleReader::ReadStyles(pugi::xml_node container, std::string_view text, XmlNames& names,
-                             StyleOrigin origin)
+                             StyleOrigin origin, ProgressSpan progress)
 {
-    for (const pugi::xml_node element : container.children())
+    const auto elements = container.children();
+    progress.Start(static_cast<std::size_t>(std::distance(elements.begin(), elements.end())));
+    std::size_t done = 0;
+    for (const pugi::xml_node element : elements)
     {
+        progress.Reach(done++);
         const XmlNames::Scope scope(names, element);
         const XmlName name = names.Of(element);
         if (name == XmlName{Odf::kStyle, "style"})

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/PropertyCodecs.h"
 #include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
@@ -40,7 +41,8 @@ public:
 
     /// Reads the children of office:styles or office:automatic-styles, whose scope is in force.
     /// `text` is what the tree was made of.
-    void ReadStyles(pugi::xml_node container, std::string_view text, XmlNames& names, StyleOrigin origin);
+    void ReadStyles(pugi::xml_node container, std::string_view text, XmlNames& names, StyleOrigin origin,
+                    ProgressSpan progress);
 
     /// The default style of the graphic family; null when the styles read hold none.
     [[nodiscard]] const StyleRecord* GetDefault() const noexcept { return defaults ? &*defaults : nullptr; }

@@ -187,11 +187,16 @@ void XmlEdits::SpliceChildren(const ElementEdits& edits, const StartTag& tag,
     target.push_back({place, place, Order::Usual, text});
 }
 
-std::string XmlEdits::Apply(std::size_t begin, std::size_t end) const
+std::string XmlEdits::Apply(std::size_t begin, std::size_t end, ProgressSpan progress) const
 {
     std::vector<Splice> all = splices;
+    progress.Start(elements.size());
+    std::size_t done = 0;
     for (const auto& [place, edits] : elements)
+    {
+        progress.Reach(done++);
         SpliceElement(edits, all);
+    }
     std::ranges::stable_sort(all, {},
                              [](const Splice& splice) { return std::pair(splice.begin, splice.order); });
     std::string result;
@@ -209,9 +214,9 @@ std::string XmlEdits::Apply(std::size_t begin, std::size_t end) const
     return result;
 }
 
-std::string XmlEdits::Apply() const
+std::string XmlEdits::Apply(const ProgressSpan& progress) const
 {
-    return Apply(0, source.GetText().size());
+    return Apply(0, source.GetText().size(), progress);
 }
 
 std::string WriteStartTag(pugi::xml_node scope, const XmlName& name,

@@ -60,10 +60,10 @@ public:
     [[nodiscard]] bool IsEmpty() const noexcept;
 
     /// The text from `begin` to `end` with the edits in it; none may reach beyond.
-    [[nodiscard]] std::string Apply(std::size_t begin, std::size_t end) const;
+    [[nodiscard]] std::string Apply(std::size_t begin, std::size_t end, ProgressSpan progress = {}) const;
 
     /// The whole text with all edits.
-    [[nodiscard]] std::string Apply() const;
+    [[nodiscard]] std::string Apply(const ProgressSpan& progress = {}) const;
 
 private:
     /// At one place, what closes goes before what opens, and all else in the order of the calls.

@@ -5,9 +5,9 @@
 namespace ReferenceHost
 {
 
-void ScanXml(std::string_view text, const std::string& label)
+void ScanXml(std::string_view text, const std::string& label, ProgressSpan progress)
 {
-    XmlScanner(text, label).Run();
+    XmlScanner(text, label).Run(progress);
 }
 
 } // namespace ReferenceHost

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reference_host/document/ProgressMeter.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -18,8 +20,9 @@ inline constexpr std::size_t kDeepestNesting = 256;
 /// Texts declared in another encoding than UTF-8 are refused and not converted, because edits are spliced
 /// into the bytes as they stand in the file.
 ///
-/// @param label names the file, and the entry of an archive, in errors.
+/// @param label    names the file, and the entry of an archive, in errors.
+/// @param progress is started with the length of the text.
 /// @throws DocumentError with the line, and with the element where one is open.
-void ScanXml(std::string_view text, const std::string& label);
+void ScanXml(std::string_view text, const std::string& label, ProgressSpan progress = {});
 
 } // namespace ReferenceHost

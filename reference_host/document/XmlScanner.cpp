@@ -54,8 +54,9 @@ XmlScanner::XmlScanner(std::string_view source, const std::string& name) : text(
 {
 }
 
-void XmlScanner::Run()
+void XmlScanner::Run(ProgressSpan progress)
 {
+    progress.Start(text.size());
     ScanEncoding();
     place = text.size() - WithoutByteOrderMark(text).size();
     ScanDeclaration();
@@ -65,6 +66,7 @@ void XmlScanner::Run()
             ScanMarkup();
         else
             ScanText();
+        progress.Reach(place);
     }
     if (!open.empty())
         Fail("the element is never closed", "</" + std::string(InnermostElement()) + ">");

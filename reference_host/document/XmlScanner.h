@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/NamespaceBindings.h"
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/XmlText.h"
 
 #include <cstddef>
@@ -21,7 +22,7 @@ public:
     XmlScanner(std::string_view source, const std::string& name);
 
     /// Goes over the whole text. Once only.
-    void Run();
+    void Run(ProgressSpan progress);
 
 private:
     struct OpenElement

@@ -21,8 +21,8 @@ std::size_t LengthOfMark(std::string_view text)
 
 } // namespace
 
-XmlSource::XmlSource(std::string_view xml, const std::string& label)
-    : text(xml), shift(LengthOfMark(xml)), tree(ParseXml(xml, label))
+XmlSource::XmlSource(std::string_view xml, const std::string& label, const ProgressSpan& progress)
+    : text(xml), shift(LengthOfMark(xml)), tree(ParseXml(xml, label, progress))
 {
 }
 

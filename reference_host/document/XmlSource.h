@@ -1,5 +1,6 @@
 #pragma once
 
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/XmlStartTag.h"
 
 #include <pugixml.hpp>
@@ -18,9 +19,10 @@ class XmlSource
 public:
     /// Borrows the text.
     ///
-    /// @param label names the text in errors.
+    /// @param label    names the text in errors.
+    /// @param progress of checking and parsing it.
     /// @throws DocumentError
-    XmlSource(std::string_view xml, const std::string& label);
+    XmlSource(std::string_view xml, const std::string& label, const ProgressSpan& progress = {});
 
     [[nodiscard]] std::string_view GetText() const noexcept { return text; }
 

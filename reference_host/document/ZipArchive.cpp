@@ -112,7 +112,15 @@ std::uint64_t ZipArchive::FindOnly(const std::string& entry) const
     return static_cast<std::uint64_t>(found);
 }
 
-std::string ZipArchive::Read(const std::string& entry) const
+namespace
+{
+
+/// As many bytes as are unpacked before it is told how far that is.
+constexpr std::size_t kUnpackedAtOnce = std::size_t{1} << 20U;
+
+} // namespace
+
+std::string ZipArchive::Read(const std::string& entry, ProgressSpan progress) const
 {
     const std::uint64_t index = FindOnly(entry);
     zip_stat_t stat;
@@ -127,15 +135,18 @@ std::string ZipArchive::Read(const std::string& entry) const
                             LabelOf(entry), "an intact entry");
     }
     std::string text(stat.size, '\0');
+    progress.Start(text.size());
     std::size_t length = 0;
     while (length < text.size())
     {
-        const zip_int64_t got = zip_fread(file.get(), text.data() + length, text.size() - length);
+        const zip_int64_t got =
+            zip_fread(file.get(), text.data() + length, std::min(kUnpackedAtOnce, text.size() - length));
         if (got < 0)
             FailDamaged(zip_file_strerror(file.get()), entry);
         if (got == 0)
             FailDamaged("it ends early", entry);
         length += static_cast<std::size_t>(got);
+        progress.Reach(length);
     }
     // Reading on to the end checks the checksum, and that there is no more than was announced.
     char beyond = 0;

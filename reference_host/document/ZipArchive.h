@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reference_host/document/ProgressMeter.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -37,10 +39,11 @@ public:
 
     /// Unpacks an entry and checks its checksum.
     ///
+    /// @param progress is started with the unpacked size.
     /// @throws DocumentError that names the entry when it is missing, there twice, encrypted, damaged, or
     /// larger
     ///         than a limit allows.
-    [[nodiscard]] std::string Read(const std::string& entry) const;
+    [[nodiscard]] std::string Read(const std::string& entry, ProgressSpan progress = {}) const;
 
     /// How errors name an entry: "x.odg, content.xml".
     [[nodiscard]] std::string LabelOf(const std::string& entry) const;

@@ -3,8 +3,7 @@
 #include "reference_host/document/ZipRewriter.h"
 
 #include "reference_host/document/DocumentError.h"
-
-#include <zlib.h>
+#include "reference_host/document/ZipPacking.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -78,14 +77,6 @@ struct Layout
     std::size_t end = 0; ///< The record at the end, with the archive's comment.
 };
 
-/// The packed form of an entry.
-struct Packed
-{
-    std::string bytes;
-    std::uint32_t checksum = 0;
-    std::size_t size = 0; ///< Unpacked.
-};
-
 [[noreturn]] void FailUnusual(const std::string& label)
 {
     throw DocumentError("the archive is built in a way that cannot be edited", label,
@@ -151,34 +142,8 @@ void FindEnds(Layout& layout, std::string_view archive, const std::string& label
     }
 }
 
-Packed Pack(std::string_view bytes, const std::string& label)
-{
-    Packed packed;
-    packed.size = bytes.size();
-    packed.checksum = static_cast<std::uint32_t>(
-        crc32_z(0, reinterpret_cast<const unsigned char*>(bytes.data()), bytes.size()));
-    z_stream stream{};
-    constexpr int kWithoutHeader = -15;
-    constexpr int kUsualMemory = 8;
-    if (bytes.size() >= kLargest || deflateInit2(&stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, kWithoutHeader,
-                                                 kUsualMemory, Z_DEFAULT_STRATEGY) != Z_OK)
-        throw DocumentError("an entry cannot be packed", label, "less text, or more memory");
-    packed.bytes.resize(deflateBound(&stream, static_cast<uLong>(bytes.size())));
-    // The library does not write through this pointer.
-    stream.next_in = reinterpret_cast<unsigned char*>(const_cast<char*>(bytes.data()));
-    stream.avail_in = static_cast<uInt>(bytes.size());
-    stream.next_out = reinterpret_cast<unsigned char*>(packed.bytes.data());
-    stream.avail_out = static_cast<uInt>(packed.bytes.size());
-    const int result = deflate(&stream, Z_FINISH);
-    packed.bytes.resize(stream.total_out);
-    deflateEnd(&stream);
-    if (result != Z_STREAM_END)
-        throw DocumentError("an entry cannot be packed", label, "less text, or more memory");
-    return packed;
-}
-
 /// Puts what a header says of the contents into it; `flags` is where its flags stand.
-void Describe(std::string& header, std::size_t flags, const Packed& packed)
+void Describe(std::string& header, std::size_t flags, const PackedEntry& packed)
 {
     // Sizes stand in the header itself, and nothing is encrypted.
     Patch(header, flags, 2, Read(header, flags, 2) & kUtf8Names);
@@ -214,8 +179,9 @@ std::string MakeLocalHeader(const Entry& entry, const std::string& name)
 class Rewriter
 {
 public:
-    Rewriter(std::string_view original, Layout& originalLayout, const std::string& fileLabel)
-        : archive(original), layout(originalLayout), label(fileLabel)
+    Rewriter(std::string_view original, Layout& originalLayout, const std::string& fileLabel,
+             const ProgressPieces& packing)
+        : archive(original), layout(originalLayout), label(fileLabel), pieces(packing)
     {
     }
 
@@ -243,6 +209,11 @@ public:
     }
 
 private:
+    PackedEntry PackNext(const std::string& bytes)
+    {
+        return PackEntry(bytes, label, pieces.Next(bytes.size()));
+    }
+
     void WriteEntry(Entry& entry, const std::vector<ZipReplacement>& replacements)
     {
         const std::size_t offset = result.size();
@@ -251,7 +222,7 @@ private:
             result += archive.substr(entry.begin, entry.end - entry.begin);
         else
         {
-            const Packed packed = Pack(replacement->bytes, label);
+            const PackedEntry packed = PackNext(replacement->bytes);
             const std::size_t size = kLocalSize + Read(archive, entry.begin + kLocalNameLength, 2) +
                                      Read(archive, entry.begin + kLocalExtraLength, 2);
             std::string header(archive.substr(entry.begin, size));
@@ -264,7 +235,7 @@ private:
 
     void AddEntry(const ZipReplacement& replacement)
     {
-        const Packed packed = Pack(replacement.bytes, label);
+        const PackedEntry packed = PackNext(replacement.bytes);
         Entry entry = MakeEntry(replacement.name, layout.entries.front());
         Describe(entry.directory, kCentralFlags, packed);
         Patch(entry.directory, kCentralOffset, 4, result.size());
@@ -294,6 +265,7 @@ private:
     std::string_view archive;
     Layout& layout;
     const std::string& label;
+    ProgressPieces pieces;
     std::string result;
     std::vector<Entry> added;
 };
@@ -301,11 +273,15 @@ private:
 } // namespace
 
 std::string RewriteZip(std::string_view archive, const std::vector<ZipReplacement>& replacements,
-                       const std::string& label)
+                       const std::string& label, const ProgressSpan& progress)
 {
     Layout layout = TakeApart(archive, label);
     FindEnds(layout, archive, label);
-    return Rewriter(archive, layout, label).Write(replacements);
+    std::size_t toPack = 0;
+    for (const ZipReplacement& replacement : replacements)
+        toPack += replacement.bytes.size();
+    const ProgressPieces pieces(progress.Part(ProgressPhase::Packing, 0, 1), toPack);
+    return Rewriter(archive, layout, label, pieces).Write(replacements);
 }
 
 } // namespace ReferenceHost

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "reference_host/document/ProgressMeter.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,11 +21,12 @@ struct ZipReplacement
 /// All other entries keep their headers and packed bytes, and all keep their order, dates and comments; new
 /// ones go behind them. Without replacements the result is `archive`.
 ///
-/// @param label names the file in errors.
+/// @param label    names the file in errors.
+/// @param progress of packing what was replaced.
 /// @throws DocumentError when the archive is built in a way that this cannot copy: over 4 GiB, in several
 ///         files, or with a damaged directory.
 [[nodiscard]] std::string RewriteZip(std::string_view archive,
                                      const std::vector<ZipReplacement>& replacements,
-                                     const std::string& label);
+                                     const std::string& label, const ProgressSpan& progress = {});
 
 } // namespace ReferenceHost

@@ -43,12 +43,16 @@ PictureReader::PictureReader(DrawingData& drawing)
         objectsByPlace.emplace(object.GetPlace(), &object);
 }
 
-DrawingPicture PictureReader::Read()
+DrawingPicture PictureReader::Read(const ProgressSpan& whole)
 {
-    const Tree pages = ParseXml(content, data.file.label);
+    constexpr double kParsed = 0.15;
+    // The texts are those that were checked when the drawing was opened.
+    const Tree pages = ParseCheckedXml(content, data.file.label, whole.Part(0, kParsed));
+    progress = whole.Part(ProgressPhase::Picture, kParsed, 1);
+    progress.Start(content.size());
     if (!data.file.styles.empty())
     {
-        const Tree styles = ParseXml(data.file.styles, data.file.label + ", styles.xml");
+        const Tree styles = ParseCheckedXml(data.file.styles, data.file.label + ", styles.xml");
         ReadStylesOf(styles->document_element());
     }
     ReadStylesOf(pages->document_element());
@@ -140,7 +144,9 @@ void PictureReader::ReadShapes(pugi::xml_node container, PagePicture& page)
             ReadShapes(element, page);
             continue;
         }
-        const auto object = objectsByPlace.find(PlaceOfElement(element, content));
+        const std::size_t place = PlaceOfElement(element, content);
+        progress.Reach(place);
+        const auto object = objectsByPlace.find(place);
         if (object != objectsByPlace.end())
             ReadShape(element, *object->second, page);
     }

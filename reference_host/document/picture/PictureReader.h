@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/DrawingData.h"
+#include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/XmlNames.h"
 #include "reference_host/document/picture/DrawingPicture.h"
 #include "reference_host/document/picture/PackagePictures.h"
@@ -25,8 +26,8 @@ public:
     /// Borrows the drawing.
     explicit PictureReader(DrawingData& drawing);
 
-    /// @throws DocumentError when the file's XML cannot be read, which it could when the drawing was opened.
-    [[nodiscard]] DrawingPicture Read();
+    /// @throws OperationCancelled
+    [[nodiscard]] DrawingPicture Read(const ProgressSpan& whole);
 
 private:
     using Tree = std::unique_ptr<pugi::xml_document>;
@@ -49,6 +50,7 @@ private:
     std::unordered_map<std::string, Point> layoutSizes;           ///< Of page layouts by their names.
     std::unordered_map<std::string, std::string> layoutsByMaster; ///< Of master pages by their names.
     DrawingPicture picture;
+    ProgressSpan progress; ///< Of the content.
 };
 
 } // namespace ReferenceHost
