@@ -12,17 +12,12 @@ namespace ReferenceHost
 namespace
 {
 
+/// How much of the work is done when there is a tree, before it is indexed.
+constexpr double kParsed = 0.4;
+
 /// What stands in the root of a document, in this order.
 constexpr std::array<std::string_view, 8> kContainers{
     "meta", "settings", "scripts", "font-face-decls", "styles", "automatic-styles", "master-styles", "body"};
-
-} // namespace
-
-namespace
-{
-
-/// How much of the work is done when there is a tree, before it is indexed.
-constexpr double kParsed = 0.4;
 
 } // namespace
 

@@ -13,6 +13,9 @@ namespace ReferenceHost
 namespace
 {
 
+/// As many bytes as are unpacked before it is told how far that is.
+constexpr std::size_t kUnpackedAtOnce = std::size_t{1} << 20U;
+
 struct CloseFile
 {
     void operator()(zip_file_t* file) const noexcept { zip_fclose(file); }
@@ -111,14 +114,6 @@ std::uint64_t ZipArchive::FindOnly(const std::string& entry) const
     }
     return static_cast<std::uint64_t>(found);
 }
-
-namespace
-{
-
-/// As many bytes as are unpacked before it is told how far that is.
-constexpr std::size_t kUnpackedAtOnce = std::size_t{1} << 20U;
-
-} // namespace
 
 std::string ZipArchive::Read(const std::string& entry, ProgressSpan progress) const
 {

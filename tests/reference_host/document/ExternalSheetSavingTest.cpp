@@ -189,6 +189,16 @@ TEST_F(SavedSheets, AreNotReplacedByTheDrawing)
     EXPECT_EQ(folder.Bytes("house.fodg"), HouseSheet().Text());
 }
 
+TEST_F(SavedSheets, StayAsTheyAreWhenTheDrawingCannotBeWritten)
+{
+    EditTheSheet();
+    fs::create_directory(folder.PathOf("taken.fodg"));
+
+    EXPECT_THAT(ErrorOfSaving("taken.fodg"), HasSubstr("the drawing cannot be saved"));
+
+    EXPECT_EQ(folder.Bytes("house.fodg"), HouseSheet().Text());
+}
+
 TEST_F(SavedSheets, AreRefusedWhenSomebodyElseHasChangedThem)
 {
     EditTheSheet();

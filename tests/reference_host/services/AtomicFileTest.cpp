@@ -4,14 +4,18 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <csignal>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 #include <sys/resource.h>
 #include <system_error>
 #include <unistd.h>
+#include <vector>
 
 using ReferenceHost::Backup;
+using ReferenceHost::StagedFile;
 using ReferenceHost::WriteFileAtomically;
 using testing::UnorderedElementsAre;
 
@@ -141,6 +145,58 @@ TEST_F(AtomicFiles, LeaveTheOldOneWholeInAFolderThatIsReadOnly)
     fs::permissions(folder.GetPath(), static_cast<fs::perms>(0755));
     EXPECT_EQ(BytesOf(file), "old");
     EXPECT_THAT(Names(), UnorderedElementsAre("x"));
+}
+
+TEST_F(AtomicFiles, LeaveNoTraceWhenTheyAreGivenUp)
+{
+    const fs::path file = folder.Write("x", "old");
+
+    {
+        const StagedFile given(file, "new");
+        EXPECT_EQ(Names().size(), 2U);
+    }
+
+    EXPECT_EQ(BytesOf(file), "old");
+    EXPECT_THAT(Names(), UnorderedElementsAre("x"));
+}
+
+TEST_F(AtomicFiles, LeaveNoTraceWhenTheyAreGivenUpWhileTheyAreWritten)
+{
+    const fs::path file = folder.Write("x", "old");
+    const auto giveUp = [](std::size_t) { throw std::out_of_range("enough"); };
+
+    EXPECT_THROW(StagedFile(file, "new", giveUp), std::out_of_range);
+
+    EXPECT_EQ(BytesOf(file), "old");
+    EXPECT_THAT(Names(), UnorderedElementsAre("x"));
+}
+
+TEST_F(AtomicFiles, TellHowManyBytesWereWritten)
+{
+    const std::string bytes(3'000'000, 'n');
+    std::vector<std::size_t> told;
+
+    const StagedFile staged(folder.GetPath() / "x", bytes,
+                            [&told](std::size_t written) { told.push_back(written); });
+
+    EXPECT_GT(told.size(), 2U);
+    EXPECT_TRUE(std::ranges::is_sorted(told));
+    EXPECT_EQ(told.back(), bytes.size());
+}
+
+TEST_F(AtomicFiles, TakeTheirPlacesTogetherWhenAllAreWritten)
+{
+    const fs::path first = folder.Write("x", "old");
+    const fs::path second = folder.Write("y", "old");
+    StagedFile newFirst(first, "new");
+    StagedFile newSecond(second, "new");
+    EXPECT_EQ(BytesOf(first), "old");
+
+    newFirst.TakePlace(Backup::None);
+    newSecond.TakePlace(Backup::Keep);
+
+    EXPECT_EQ(BytesOf(first) + BytesOf(second), "newnew");
+    EXPECT_THAT(Names(), UnorderedElementsAre("x", "y", "y~"));
 }
 
 TEST_F(AtomicFiles, ReplaceNoFolder)
