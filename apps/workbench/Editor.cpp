@@ -82,11 +82,13 @@ std::vector<Change> Editor::DescribeChanges()
 }
 
 std::vector<std::filesystem::path> Editor::Save(const std::filesystem::path& target, bool keepBackup,
-                                                std::vector<std::string>& warnings)
+                                                std::vector<std::string>& warnings,
+                                                const ReferenceHost::ProgressListener& progress)
 {
     workings->DemandNoGroup("saving");
     ReferenceHost::SaveOptions options;
     options.keepBackup = keepBackup;
+    options.progress = progress;
     return workings->session.GetDrawing().Save(target, options, warnings);
 }
 

@@ -149,10 +149,13 @@ public:
     /// @param target     replaced as a whole or not at all; may be the file that was opened.
     /// @param keepBackup what each file was is kept beside it, with "~" behind its name.
     /// @param warnings   receives one line in UTF-8 for everything that the file cannot hold.
+    /// @param progress   is told how far it is, and may stop it; all is as it was then.
     /// @returns the files of style sheets that were written.
-    /// @throws ReferenceHost::DocumentError when it cannot be written; EditError while a group is open.
+    /// @throws ReferenceHost::DocumentError when it cannot be written; EditError while a group is open;
+    ///         ReferenceHost::OperationCancelled.
     std::vector<std::filesystem::path> Save(const std::filesystem::path& target, bool keepBackup,
-                                            std::vector<std::string>& warnings);
+                                            std::vector<std::string>& warnings,
+                                            const ReferenceHost::ProgressListener& progress = {});
 
     /// What the sources of this class share; for these alone.
     struct Workings;

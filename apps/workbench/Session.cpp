@@ -40,17 +40,13 @@ TargetReport DescribeTarget(const TargetHandover& handover, ReferenceHost::Drawi
 
 } // namespace
 
-struct Session::OpenedDrawing
-{
-    std::unique_ptr<ReferenceHost::Drawing> drawing;
-    std::vector<std::string> warnings;
-};
-
 Session::OpenedDrawing Session::OpenDrawing(const std::filesystem::path& file,
-                                            const std::vector<PanelDescription>& describedPanels)
+                                            const std::vector<PanelDescription>& describedPanels,
+                                            const ReferenceHost::ProgressListener& progress)
 {
     OpenedDrawing opened;
-    opened.drawing = ReferenceHost::Drawing::Open(file, opened.warnings, TakeCategories(describedPanels));
+    opened.drawing =
+        ReferenceHost::Drawing::Open(file, opened.warnings, TakeCategories(describedPanels), progress);
     return opened;
 }
 

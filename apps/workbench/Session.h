@@ -34,8 +34,27 @@ namespace Workbench
 class Session
 {
 public:
-    /// Opens a drawing. The categories that the described panels bring are part of it, whether or not the
-    /// panels are loaded later.
+    /// A drawing that was opened and belongs to no session yet.
+    struct OpenedDrawing
+    {
+        std::unique_ptr<ReferenceHost::Drawing> drawing; ///< Never null.
+        std::vector<std::string> warnings;               ///< What was repaired or passed over in it.
+    };
+
+    /// Opens a drawing for a session that begins later: the one before may still be there. The categories
+    /// that the described panels bring are part of it, whether or not the panels are loaded later.
+    ///
+    /// @param progress is told how far it is, and may stop it.
+    /// @throws ReferenceHost::DocumentError when the drawing cannot be read.
+    /// @throws ReferenceHost::OperationCancelled
+    [[nodiscard]] static OpenedDrawing OpenDrawing(const std::filesystem::path& file,
+                                                   const std::vector<PanelDescription>& describedPanels,
+                                                   const ReferenceHost::ProgressListener& progress = {});
+
+    /// Begins with a drawing that was opened.
+    explicit Session(OpenedDrawing opened);
+
+    /// Begins with what OpenDrawing() opens.
     ///
     /// @throws ReferenceHost::DocumentError when the drawing cannot be read.
     Session(const std::filesystem::path& file, const std::vector<PanelDescription>& describedPanels);
@@ -97,14 +116,6 @@ public:
     [[nodiscard]] Report Inspect(const Selection& selection);
 
 private:
-    /// A drawing with what was found when it was opened.
-    struct OpenedDrawing;
-
-    explicit Session(OpenedDrawing opened);
-
-    static OpenedDrawing OpenDrawing(const std::filesystem::path& file,
-                                     const std::vector<PanelDescription>& describedPanels);
-
     void TakePresetProblem(ReferenceHost::PresetProblem problem, const std::string& line);
 
     std::vector<std::string> warnings;

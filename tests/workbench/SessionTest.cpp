@@ -13,6 +13,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -182,6 +184,43 @@ TEST_F(SessionOnADrawing, LeavesNothingBehindWhenTheDrawingCannotBeRead)
 
     EXPECT_EQ(StylesCommon::GetApp(), nullptr);
     EXPECT_EQ(ReferenceHost::Application::GetCurrent(), nullptr);
+}
+
+TEST_F(SessionOnADrawing, TakesADrawingThatWasOpenedWhileAnotherSessionWentOn)
+{
+    thirdParty.Write("shadow", WorkbenchTests::ShadowDescription());
+    const PanelFolder folder = ReadPanelFolder(thirdParty.GetPath());
+    auto before = std::make_unique<Session>(folder.panels);
+    Session::OpenedDrawing opened = Session::OpenDrawing(Write(TwoBoxes()), folder.panels);
+    before.reset();
+
+    Session session(std::move(opened));
+
+    ASSERT_THAT(session.LoadPanels(folder.panels), IsEmpty());
+    const Report report = session.Inspect(session.Select(ParseSelector(L"name:A")));
+    EXPECT_EQ(RowOf(report, L"ShadowDistance").value, ReportValue(300));
+}
+
+TEST_F(SessionOnADrawing, KeepsTheWarningsOfADrawingThatWasOpenedBefore)
+{
+    FlatDrawing drawing;
+    drawing.Named("style:name='Orphan' style:parent-style-name='Nobody'").Page("<draw:rect/>");
+
+    const Session session(Session::OpenDrawing(Write(drawing), {}));
+
+    ASSERT_THAT(session.GetWarnings(), SizeIs(1));
+    EXPECT_THAT(session.GetWarnings().front(), testing::HasSubstr("Nobody"));
+}
+
+TEST_F(SessionOnADrawing, LeavesASessionAloneWhenOpeningIsCancelled)
+{
+    Session session(Write(TwoBoxes()), {});
+    const auto stop = [](const ReferenceHost::Progress&) { return ReferenceHost::ProgressAnswer::Stop; };
+
+    EXPECT_THROW(static_cast<void>(Session::OpenDrawing(Write(TwoBoxes()), {}, stop)),
+                 ReferenceHost::OperationCancelled);
+
+    EXPECT_THAT(session.Inspect(session.Select(ParseSelector(L"all"))).targets, SizeIs(2));
 }
 
 TEST_F(SessionOnADrawing, GivesPresetsOfAPanelToItsOwnCategory)
