@@ -6,6 +6,7 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 
 #include <exception>
 #include <string>
@@ -26,6 +27,46 @@ struct WaitingPointer
 
     ~WaitingPointer() { QGuiApplication::restoreOverrideCursor(); }
 };
+
+/// Shows how far something is, for as long as it lives.
+class ShownProgress
+{
+public:
+    ShownProgress(IFileProgress* shown, FileWork work, const std::filesystem::path& file) : progress(shown)
+    {
+        if (progress != nullptr)
+            progress->Begin(work, file);
+    }
+
+    ShownProgress(const ShownProgress&) = delete;
+    ShownProgress& operator=(const ShownProgress&) = delete;
+
+    ~ShownProgress()
+    {
+        if (progress != nullptr)
+            progress->End();
+    }
+
+    [[nodiscard]] ReferenceHost::ProgressListener Listener() const
+    {
+        if (progress == nullptr)
+            return {};
+        return [shown = progress](const ReferenceHost::Progress& now) { return shown->Tell(now); };
+    }
+
+private:
+    IFileProgress* progress;
+};
+
+/// A listener to one of several operations that follow each other, which stands for that share of all.
+ReferenceHost::ProgressListener ShareOf(const ReferenceHost::ProgressListener& all, double from, double to)
+{
+    if (!all)
+        return {};
+    return [&all, from, to](const ReferenceHost::Progress& part) {
+        return all({part.phase, from + (to - from) * part.fraction});
+    };
+}
 
 QStringList ToQStrings(const std::vector<std::string>& lines)
 {
@@ -70,7 +111,7 @@ OvxStringT SelectorOf(ReferenceHost::Drawing& drawing,
 Document::Document(Workbench::PanelFolder itsPanels, Workbench::IDialogAnswers& itsAnswers)
     : panels(std::move(itsPanels)), answers(itsAnswers)
 {
-    Begin(std::make_unique<Workbench::Session>(panels.panels), {});
+    BeginBlank();
 }
 
 Document::~Document()
@@ -85,35 +126,40 @@ bool Document::IsModified() const
 
 bool Document::Open(const std::filesystem::path& file)
 {
+    // There is one session at a time: whatever may fail, or be cancelled, comes before the drawing that is
+    // open has to go.
+    Workbench::Session::OpenedDrawing opening;
+    ReferenceHost::DrawingPicture newPicture;
+    const auto read = [&](const ReferenceHost::ProgressListener& listener)
+    {
+        constexpr double kOpened = 0.6;
+        opening = Workbench::Session::OpenDrawing(file, panels.panels, ShareOf(listener, 0, kOpened));
+        newPicture = opening.drawing->ReadPicture(ShareOf(listener, kOpened, 1));
+    };
+    if (!AttemptOnFile(FileWork::Opening, file, read))
+        return false;
     const WaitingPointer waiting;
+    End();
     const bool isOpen = Attempt(
         [&]
-        {
-            // There is one session at a time, so a file that cannot be read is found out before the drawing
-            // that is open has to go.
-            std::vector<std::string> ignored;
-            static_cast<void>(ReferenceHost::Drawing::Open(file, ignored));
-            End();
-            Begin(std::make_unique<Workbench::Session>(file, panels.panels), file);
-        });
+        { Begin(std::make_unique<Workbench::Session>(std::move(opening)), file, std::move(newPicture)); });
     if (session == nullptr)
-        Begin(std::make_unique<Workbench::Session>(panels.panels), {});
+        BeginBlank();
     return isOpen;
 }
 
 bool Document::Save(const std::filesystem::path& target)
 {
-    const WaitingPointer waiting;
-    const bool isSaved = Attempt(
-        [&]
-        {
-            std::vector<std::string> told;
-            const std::vector<std::filesystem::path> sheets = editor->Save(target, keepsBackup, told);
-            warnings = ToQStrings(told);
-            path = target;
-            savedStep = editor->GetStepCount();
-            emit noted(DescribeWritten(target, sheets));
-        });
+    const auto save = [&](const ReferenceHost::ProgressListener& listener)
+    {
+        std::vector<std::string> told;
+        const std::vector<std::filesystem::path> sheets = editor->Save(target, keepsBackup, told, listener);
+        warnings = ToQStrings(told);
+        path = target;
+        savedStep = editor->GetStepCount();
+        emit noted(DescribeWritten(target, sheets));
+    };
+    const bool isSaved = AttemptOnFile(FileWork::Saving, target, save);
     emit fileChanged();
     return isSaved;
 }
@@ -203,6 +249,11 @@ bool Document::Attempt(const std::function<void()>& work)
         work();
         return true;
     }
+    catch (const ReferenceHost::OperationCancelled&)
+    {
+        emit noted(TextOf(L"window.cancelled"));
+        return false;
+    }
     catch (const std::exception& error)
     {
         emit failed(QString::fromStdString(error.what()));
@@ -210,9 +261,38 @@ bool Document::Attempt(const std::function<void()>& work)
     }
 }
 
-void Document::Begin(std::unique_ptr<Workbench::Session> newSession, const std::filesystem::path& file)
+/// What shows the progress lets events happen: nothing that they lead to may begin a second time.
+bool Document::AttemptOnFile(FileWork work, const std::filesystem::path& file, const FileSteps& steps)
+{
+    if (isBusy)
+        return false;
+    return Attempt(
+        [&]
+        {
+            const QScopedValueRollback<bool> busy(isBusy, true);
+            const WaitingPointer waiting;
+            const ShownProgress shown(progress, work, file);
+            steps(shown.Listener());
+        });
+}
+
+ReferenceHost::DrawingPicture Document::TakePicture()
+{
+    return std::exchange(picture, {});
+}
+
+void Document::BeginBlank()
+{
+    auto blank = std::make_unique<Workbench::Session>(panels.panels);
+    ReferenceHost::DrawingPicture itsPicture = blank->GetDrawing().ReadPicture();
+    Begin(std::move(blank), {}, std::move(itsPicture));
+}
+
+void Document::Begin(std::unique_ptr<Workbench::Session> newSession, const std::filesystem::path& file,
+                     ReferenceHost::DrawingPicture newPicture)
 {
     session = std::move(newSession);
+    picture = std::move(newPicture);
     path = file;
     warnings = ToQStrings(panels.problems) + ToQStrings(session->GetWarnings()) +
                ToQStrings(session->LoadPanels(panels.panels));
@@ -229,6 +309,7 @@ void Document::End()
 {
     emit closing();
     editor.reset();
+    picture = {};
     session.reset();
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "apps/desktop/IFileProgress.h"
 #include "apps/workbench/Editor.h"
 #include "apps/workbench/IDialogAnswers.h"
 #include "apps/workbench/PanelFolder.h"
 #include "apps/workbench/Session.h"
 #include "host/utils/OvxStringT.h"
+#include "reference_host/document/picture/DrawingPicture.h"
 
 #include <QObject>
 #include <QString>
@@ -45,13 +47,24 @@ public:
     /// Tells whether the drawing differs from what was opened or saved last.
     [[nodiscard]] bool IsModified() const;
 
+    /// Shows from now on how far opening and saving are, and lets them be cancelled; null, as at first, for
+    /// nobody. Borrowed.
+    void SetProgress(IFileProgress* shown) noexcept { progress = shown; }
+
+    /// Tells whether a file is being opened or saved just now, which only what shows the progress can see.
+    /// Until that is over, nothing else can be opened or saved.
+    [[nodiscard]] bool IsBusy() const noexcept { return isBusy; }
+
+    /// What the drawing looks like, as it was read when the drawing was opened. Once after each opened().
+    [[nodiscard]] ReferenceHost::DrawingPicture TakePicture();
+
     /// What was repaired or passed over when the drawing and its panels were loaded.
     [[nodiscard]] const QStringList& GetWarnings() const noexcept { return warnings; }
 
-    /// Opens a file in place of the drawing. What was not saved is lost; one that cannot be read leaves the
-    /// drawing that is open.
+    /// Opens a file in place of the drawing. What was not saved is lost; one that cannot be read, and one
+    /// that was cancelled, leaves the drawing that is open.
     ///
-    /// @returns whether it did; if not, failed() told why.
+    /// @returns whether it did; if not, failed() told why, or noted() that it was cancelled.
     bool Open(const std::filesystem::path& file);
 
     /// Whether saving keeps what each file was beside it, with "~" behind its name.
@@ -59,7 +72,9 @@ public:
 
     /// Saves the drawing, which lies in that file from then on, and tells in words which files were written.
     ///
-    /// @returns whether it did; if not, failed() told why.
+    /// @returns whether it did; if not, failed() told why, or noted() that it was cancelled. The drawing is
+    /// as
+    ///          modified as before then.
     bool Save(const std::filesystem::path& target);
 
     /// Lets `edits` change the drawing. What fails is told; listeners hear of a change in any case, so that
@@ -120,8 +135,13 @@ signals:
     void failed(const QString& message);
 
 private:
+    using FileSteps = std::function<void(const ReferenceHost::ProgressListener& listener)>;
+
     bool Attempt(const std::function<void()>& work);
-    void Begin(std::unique_ptr<Workbench::Session> newSession, const std::filesystem::path& file);
+    bool AttemptOnFile(FileWork work, const std::filesystem::path& file, const FileSteps& steps);
+    void Begin(std::unique_ptr<Workbench::Session> newSession, const std::filesystem::path& file,
+               ReferenceHost::DrawingPicture newPicture);
+    void BeginBlank();
     void End();
     void Settle();
     void SelectInForce(const OvxStringT& selector);
@@ -131,6 +151,9 @@ private:
     std::unique_ptr<Workbench::Session> session; ///< Never null between calls.
     std::unique_ptr<Workbench::Editor> editor;   ///< Never null between calls; ends before the session.
     std::filesystem::path path;
+    ReferenceHost::DrawingPicture picture; ///< Until it is taken.
+    IFileProgress* progress = nullptr;
+    bool isBusy = false;
     QStringList warnings;
     bool keepsBackup = false;
     std::optional<std::size_t> savedStep; ///< How many steps led to what the file holds; none for no number.

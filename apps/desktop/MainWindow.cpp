@@ -12,7 +12,6 @@
 #include "apps/desktop/dialogs/NameDialog.h"
 #include "apps/desktop/dialogs/SelectDialog.h"
 #include "apps/desktop/sections/PanelStack.h"
-#include "reference_host/document/DocumentError.h"
 #include "reference_host/resources/Language.h"
 
 #include <QAction>
@@ -64,8 +63,9 @@ void TakeTypedValue(const QWidget& window)
 } // namespace
 
 MainWindow::MainWindow(Workbench::PanelFolder panels)
-    : document(std::move(panels), dialogs), canvas(new CanvasWidget(this))
+    : progress(*this), document(std::move(panels), dialogs), canvas(new CanvasWidget(this))
 {
+    document.SetProgress(&progress);
     dialogs.SetWindow(this);
     setCentralWidget(canvas);
     canvas->setAccessibleName(TextOf(L"window.canvas"));
@@ -87,9 +87,15 @@ MainWindow::~MainWindow()
     canvas->ShowDrawing(nullptr);
 }
 
+void MainWindow::SetAttended(bool isSomebodyThere) noexcept
+{
+    isAttended = isSomebodyThere;
+    document.SetProgress(isAttended ? &progress : nullptr);
+}
+
 bool MainWindow::OpenFile(const std::filesystem::path& file)
 {
-    if (!AskToKeepChanges() || !document.Open(file))
+    if (document.IsBusy() || !AskToKeepChanges() || !document.Open(file))
         return false;
     // What only a picture was made of was not opened by anybody.
     if (isAttended)
@@ -141,7 +147,7 @@ void MainWindow::ShowLanguage(const std::string& language)
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     TakeTypedValue(*this);
-    event->setAccepted(AskToKeepChanges());
+    event->setAccepted(!document.IsBusy() && AskToKeepChanges());
     if (event->isAccepted() && remembersLayout)
         RememberLayout();
 }
@@ -163,23 +169,10 @@ void MainWindow::dropEvent(QDropEvent* event)
 
 void MainWindow::ShowOpened()
 {
-    ShowDrawing();
+    canvas->ShowPicture(document.TakePicture());
     ShowFile();
     ShowSelection();
     ShowPage();
-}
-
-/// The canvas reads the file once more, which may have gone meanwhile; the panels work without it.
-void MainWindow::ShowDrawing()
-{
-    try
-    {
-        canvas->ShowDrawing(&document.GetSession());
-    }
-    catch (const ReferenceHost::DocumentError& error)
-    {
-        emit document.failed(QString::fromStdString(error.what()));
-    }
 }
 
 void MainWindow::ShowFile()

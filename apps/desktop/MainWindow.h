@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/desktop/Document.h"
+#include "apps/desktop/FileProgress.h"
 #include "apps/desktop/dialogs/WindowDialogs.h"
 #include "apps/workbench/PanelFolder.h"
 
@@ -37,7 +38,7 @@ public:
     [[nodiscard]] CanvasWidget& GetCanvas() noexcept { return *canvas; }
 
     /// Whether somebody is there to read messages. With nobody there, as for a picture, none are shown.
-    void SetAttended(bool isSomebodyThere) noexcept { isAttended = isSomebodyThere; }
+    void SetAttended(bool isSomebodyThere) noexcept;
 
     /// Opens a file, after asking what becomes of changes that were not saved.
     ///
@@ -88,7 +89,6 @@ private:
 
     // Following the document
     void ShowOpened();
-    void ShowDrawing();
     void ShowFile();
     void ShowSelection();
     void ShowPage();
@@ -109,6 +109,7 @@ private:
     bool isAttended = true;
     bool remembersLayout = false;
     WindowDialogs dialogs;
+    FileProgress progress;
     Document document;
     CanvasWidget* canvas; ///< Owned by this, as are the others.
     QDockWidget* editedDock = nullptr;

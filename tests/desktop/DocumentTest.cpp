@@ -1,10 +1,15 @@
 #include "apps/desktop/Document.h"
 
+#include "apps/desktop/WindowText.h"
 #include "apps/desktop/dialogs/WindowDialogs.h"
 #include "tests/desktop/OpenWindow.h"
 #include "tests/workbench/EditorFixture.h"
 
 #include <QSignalSpy>
+
+#include <algorithm>
+#include <functional>
+#include <vector>
 
 using Desktop::Document;
 using WorkbenchTests::FourBoxes;
@@ -25,7 +30,143 @@ struct WindowDocument : testing::Test
     }
 };
 
+/// Hears of files being opened and saved, and cancels at a report where that is wanted.
+class HeardProgress final : public Desktop::IFileProgress
+{
+public:
+    std::vector<double> fractions;
+    std::size_t stopAt = 0; ///< The number of the report, from 1; 0 for never.
+    bool isShown = false;
+    std::function<void()> meanwhile = [] {};
+
+    void Begin(Desktop::FileWork /*work*/, const std::filesystem::path& /*file*/) override { isShown = true; }
+
+    ReferenceHost::ProgressAnswer Tell(const ReferenceHost::Progress& progress) override
+    {
+        fractions.push_back(progress.fraction);
+        meanwhile();
+        return fractions.size() == stopAt ? ReferenceHost::ProgressAnswer::Stop
+                                          : ReferenceHost::ProgressAnswer::GoOn;
+    }
+
+    void End() override { isShown = false; }
+};
+
 } // namespace
+
+TEST_F(WindowDocument, TellsHowFarOpeningAndReadingThePictureAre)
+{
+    HeardProgress progress;
+    document.SetProgress(&progress);
+
+    ASSERT_TRUE(document.Open(file));
+
+    EXPECT_TRUE(std::ranges::is_sorted(progress.fractions));
+    EXPECT_EQ(progress.fractions.front(), 0);
+    EXPECT_EQ(progress.fractions.back(), 1);
+    EXPECT_FALSE(progress.isShown);
+}
+
+TEST_F(WindowDocument, KeepsItsDrawingWhenOpeningAnotherIsCancelledAnywhere)
+{
+    ASSERT_TRUE(document.Open(file));
+    const std::filesystem::path other = folder.Write("other.fodg", FourBoxes().Text());
+    const QSignalSpy closing(&document, &Document::closing);
+    const QSignalSpy failed(&document, &Document::failed);
+    std::size_t stops = 0;
+    for (bool isOpen = false; !isOpen; ++stops)
+    {
+        ASSERT_EQ(document.GetPath(), file);
+        ASSERT_EQ(closing.count(), 0);
+        HeardProgress progress;
+        progress.stopAt = stops + 1;
+        document.SetProgress(&progress);
+
+        isOpen = document.Open(other);
+
+        ASSERT_FALSE(progress.isShown);
+    }
+    document.SetProgress(nullptr);
+
+    EXPECT_GT(stops, 10U);
+    EXPECT_EQ(document.GetPath(), other);
+    EXPECT_EQ(failed.count(), 0) << "what a person cancels is no failure";
+}
+
+TEST_F(WindowDocument, NotesThatOpeningWasCancelled)
+{
+    HeardProgress progress;
+    progress.stopAt = 1;
+    document.SetProgress(&progress);
+    const QSignalSpy noted(&document, &Document::noted);
+
+    document.Open(file);
+
+    ASSERT_EQ(noted.count(), 1);
+    EXPECT_EQ(noted.front().front().toString(), Desktop::TextOf(L"window.cancelled"));
+}
+
+TEST_F(WindowDocument, StaysModifiedWhenSavingIsCancelled)
+{
+    const std::string before = DesktopTests::ReadBytes(file);
+    document.Open(file);
+    SetColour(L"#123456");
+    HeardProgress progress;
+    progress.stopAt = 3;
+    document.SetProgress(&progress);
+
+    EXPECT_FALSE(document.Save(file));
+
+    EXPECT_TRUE(document.IsModified());
+    EXPECT_EQ(DesktopTests::ReadBytes(file), before);
+}
+
+TEST_F(WindowDocument, OpensAndSavesOneFileAtATime)
+{
+    const std::filesystem::path other = folder.Write("other.fodg", FourBoxes().Text());
+    HeardProgress progress;
+    bool hasOpened = false;
+    bool hasSaved = false;
+    progress.meanwhile = [&]
+    {
+        EXPECT_TRUE(document.IsBusy());
+        hasOpened |= document.Open(other);
+        hasSaved |= document.Save(other);
+    };
+    document.SetProgress(&progress);
+
+    EXPECT_TRUE(document.Open(file));
+
+    EXPECT_FALSE(hasOpened);
+    EXPECT_FALSE(hasSaved);
+    EXPECT_FALSE(document.IsBusy());
+    EXPECT_EQ(document.GetPath(), file);
+}
+
+TEST_F(WindowDocument, HidesTheProgressBeforeItTellsWhatFailed)
+{
+    const std::filesystem::path broken = folder.Write("broken.fodg", "<office:document><");
+    HeardProgress progress;
+    document.SetProgress(&progress);
+    bool wasShown = true;
+    QObject::connect(&document, &Document::failed, [&] { wasShown = progress.isShown; });
+
+    EXPECT_FALSE(document.Open(broken));
+
+    EXPECT_FALSE(wasShown);
+}
+
+TEST_F(WindowDocument, GivesThePictureThatWasReadWithTheDrawing)
+{
+    document.Open(file);
+    std::filesystem::remove(file);
+
+    const ReferenceHost::DrawingPicture picture = document.TakePicture();
+
+    ASSERT_EQ(picture.pages.size(), 1U);
+    EXPECT_EQ(picture.pages.front().shapes.front().object,
+              &document.GetSession().GetDrawing().GetObjects().front());
+}
 
 TEST_F(WindowDocument, BeginsWithABlankDrawing)
 {

@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 namespace Desktop
@@ -38,7 +39,14 @@ void CanvasWidget::ShowDrawing(Workbench::Session* session)
     update();
     if (session == nullptr)
         return;
-    state->drawing = std::make_unique<ShownDrawing>(session->GetDrawing().ReadPicture());
+    ShowPicture(session->GetDrawing().ReadPicture());
+}
+
+void CanvasWidget::ShowPicture(ReferenceHost::DrawingPicture picture)
+{
+    state = std::make_unique<State>();
+    update();
+    state->drawing = std::make_unique<ShownDrawing>(std::move(picture));
     SetPage(0);
     ZoomToPage();
 }

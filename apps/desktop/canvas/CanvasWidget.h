@@ -10,6 +10,11 @@
 class QMouseEvent;
 class QPaintEvent;
 
+namespace ReferenceHost
+{
+struct DrawingPicture;
+}
+
 namespace Workbench
 {
 class Session;
@@ -38,6 +43,9 @@ public:
     ///
     /// @throws ReferenceHost::DocumentError when the file can no longer be read; nothing is shown then.
     void ShowDrawing(Workbench::Session* session);
+
+    /// The same of a drawing whose picture has been read already.
+    void ShowPicture(ReferenceHost::DrawingPicture picture);
 
     /// Marks these objects as the selected ones, without telling anybody. Groups may be among them; null may
     /// not. Borrowed until the next call or that of ShowDrawing().
