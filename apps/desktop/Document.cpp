@@ -242,8 +242,12 @@ QString Document::GetRedoName() const
     return ToQString(session->GetDrawing().GetHistory().GetRedoName());
 }
 
+/// What shows the progress of opening and saving lets events happen: nothing that they lead to may get in
+/// between.
 bool Document::Attempt(const std::function<void()>& work)
 {
+    if (isBusy)
+        return false;
     try
     {
         work();
@@ -261,11 +265,8 @@ bool Document::Attempt(const std::function<void()>& work)
     }
 }
 
-/// What shows the progress lets events happen: nothing that they lead to may begin a second time.
 bool Document::AttemptOnFile(FileWork work, const std::filesystem::path& file, const FileSteps& steps)
 {
-    if (isBusy)
-        return false;
     return Attempt(
         [&]
         {

@@ -52,7 +52,7 @@ public:
     void SetProgress(IFileProgress* shown) noexcept { progress = shown; }
 
     /// Tells whether a file is being opened or saved just now, which only what shows the progress can see.
-    /// Until that is over, nothing else can be opened or saved.
+    /// Until that is over, nothing else can be opened, saved or edited: it is refused without a word.
     [[nodiscard]] bool IsBusy() const noexcept { return isBusy; }
 
     /// What the drawing looks like, as it was read when the drawing was opened. Once after each opened().

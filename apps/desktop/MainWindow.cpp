@@ -95,7 +95,11 @@ void MainWindow::SetAttended(bool isSomebodyThere) noexcept
 
 bool MainWindow::OpenFile(const std::filesystem::path& file)
 {
-    if (document.IsBusy() || !AskToKeepChanges() || !document.Open(file))
+    if (document.IsBusy())
+        return false;
+    // Now, and not when the dialog for the progress takes the keyboard.
+    TakeTypedValue(*this);
+    if (!AskToKeepChanges() || !document.Open(file))
         return false;
     // What only a picture was made of was not opened by anybody.
     if (isAttended)

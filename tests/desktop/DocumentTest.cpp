@@ -121,17 +121,19 @@ TEST_F(WindowDocument, StaysModifiedWhenSavingIsCancelled)
     EXPECT_EQ(DesktopTests::ReadBytes(file), before);
 }
 
-TEST_F(WindowDocument, OpensAndSavesOneFileAtATime)
+TEST_F(WindowDocument, LetsNothingElseHappenWhileAFileIsOpened)
 {
     const std::filesystem::path other = folder.Write("other.fodg", FourBoxes().Text());
     HeardProgress progress;
     bool hasOpened = false;
     bool hasSaved = false;
+    bool hasEdited = false;
     progress.meanwhile = [&]
     {
         EXPECT_TRUE(document.IsBusy());
         hasOpened |= document.Open(other);
         hasSaved |= document.Save(other);
+        hasEdited |= document.Edit([](Workbench::Editor&) {});
     };
     document.SetProgress(&progress);
 
@@ -139,6 +141,7 @@ TEST_F(WindowDocument, OpensAndSavesOneFileAtATime)
 
     EXPECT_FALSE(hasOpened);
     EXPECT_FALSE(hasSaved);
+    EXPECT_FALSE(hasEdited);
     EXPECT_FALSE(document.IsBusy());
     EXPECT_EQ(document.GetPath(), file);
 }
