@@ -2,6 +2,7 @@
 
 #include "apps/desktop/MainWindow.h"
 #include "apps/desktop/ToolkitLanguage.h"
+#include "apps/desktop/VectorIcon.h"
 #include "apps/desktop/WindowOptions.h"
 #include "apps/desktop/WindowPicture.h"
 #include "apps/desktop/WindowText.h"
@@ -122,6 +123,8 @@ int RunWindow(int argumentCount, char** arguments)
     NeedNoScreenForPictures(argumentCount, arguments);
     QApplication application(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("styleprops-desktop"));
+    QApplication::setDesktopFileName(QStringLiteral("styleprops-desktop"));
+    QApplication::setWindowIcon(MakeVectorIcon(QStringLiteral("styleprops-desktop")));
     const WindowCommand command = ReadWindowOptions(QApplication::arguments());
     if (!command.options)
     {

@@ -45,3 +45,11 @@ TEST(StateIcon, IsSharpWhereTwoPixelsMakeOne)
 
     EXPECT_EQ(pixmap.size(), QSize(32, 32));
 }
+
+TEST(StateIcon, IsTheEmptyCircleForANameWithoutAPicture)
+{
+    const QImage unknown = Desktop::MakeStateIcon(L"SundialImage").pixmap(64).toImage();
+
+    EXPECT_EQ(unknown, Desktop::MakeStateIcon(L"NoneImage").pixmap(64).toImage());
+    EXPECT_NE(unknown, Desktop::MakeStateIcon(L"InheritedImage").pixmap(64).toImage());
+}
