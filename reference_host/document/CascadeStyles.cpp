@@ -80,12 +80,18 @@ std::size_t CascadeStyles::Intern(OwnValues::Scope scope, Styles::Style* parent,
 
 std::unique_ptr<Styles::Style> CascadeStyles::Make(std::size_t number)
 {
-    Cascade& cascade = cascades[number];
+    const Cascade& cascade = cascades[number];
     if (cascade.uses == 1 && cascade.prototype == nullptr)
         return Build(cascade);
+    return std::make_unique<Styles::Style>(GetPrototype(number));
+}
+
+const Styles::Style& CascadeStyles::GetPrototype(std::size_t number)
+{
+    Cascade& cascade = cascades[number];
     if (cascade.prototype == nullptr)
         cascade.prototype = Build(cascade);
-    return std::make_unique<Styles::Style>(*cascade.prototype);
+    return *cascade.prototype;
 }
 
 std::unique_ptr<Styles::Style> CascadeStyles::MakeFor(const StyleUser& user, std::size_t number)

@@ -51,8 +51,11 @@ public:
     /// inherits from the cascade's parent and falls back to the default style.
     [[nodiscard]] std::unique_ptr<Styles::Style> Make(std::size_t number);
 
-    /// The same, for somebody: the style is one of the document, whose journal hears of its changes, and its
-    /// user is found by it from now on. User and style live as long as this.
+    /// The style that further uses of a cascade are copied from, for reading alone. Owned by this.
+    [[nodiscard]] const Styles::Style& GetPrototype(std::size_t number);
+
+    /// A new style as by Make(), for somebody: the style is one of the document, whose journal hears of its
+    /// changes, and its user is found by it from now on. User and style live as long as this.
     [[nodiscard]] std::unique_ptr<Styles::Style> MakeFor(const StyleUser& user, std::size_t number);
 
     /// The journal of styles that are made for somebody from now on; borrowed, null for none.

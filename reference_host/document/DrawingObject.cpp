@@ -28,4 +28,9 @@ Styles::Style* DrawingObject::GetStyle()
     return style.get();
 }
 
+const Styles::Style* DrawingObject::GetStyleToRead() const
+{
+    return style != nullptr || styles == nullptr ? style.get() : &styles->GetPrototype(cascade);
+}
+
 } // namespace ReferenceHost

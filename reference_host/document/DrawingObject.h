@@ -58,6 +58,11 @@ public:
     /// The same where it was asked for already; null where it was not, so that it is as the file says.
     [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }
 
+    /// The style for reading alone, without making one: the object's own where it was asked for already, else
+    /// one that all whose styles the file makes up alike share. It may be another one from then on when the
+    /// own one is asked for. Null for a group.
+    [[nodiscard]] const Styles::Style* GetStyleToRead() const;
+
     /// Which styles of the file make up the object's style: a number of CascadeStyles; without meaning for a
     /// group.
     [[nodiscard]] std::size_t GetCascade() const noexcept { return cascade; }
@@ -69,9 +74,13 @@ public:
     /// stands for itself, and for a group. The units keep their addresses.
     [[nodiscard]] std::vector<TextUnit>& GetParagraphs() noexcept { return paragraphs; }
 
+    [[nodiscard]] const std::vector<TextUnit>& GetParagraphs() const noexcept { return paragraphs; }
+
     /// The runs of all paragraphs, in order; an empty paragraph has one. Empty exactly when GetParagraphs()
     /// is.
     [[nodiscard]] std::vector<TextUnit>& GetRuns() noexcept { return runs; }
+
+    [[nodiscard]] const std::vector<TextUnit>& GetRuns() const noexcept { return runs; }
 
 private:
     friend class ShapeReader;

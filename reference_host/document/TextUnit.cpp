@@ -18,4 +18,9 @@ Styles::Style* TextUnit::GetStyle()
     return style.get();
 }
 
+const Styles::Style* TextUnit::GetStyleToRead() const
+{
+    return style != nullptr ? style.get() : &styles->GetPrototype(cascade);
+}
+
 } // namespace ReferenceHost

@@ -46,6 +46,9 @@ public:
     /// The same where it was asked for already; null where it was not, so that it is as the file says.
     [[nodiscard]] Styles::Style* FindStyle() const noexcept { return style.get(); }
 
+    /// The style for reading alone, without making one, as with DrawingObject::GetStyleToRead(); never null.
+    [[nodiscard]] const Styles::Style* GetStyleToRead() const;
+
     /// Which styles of the file make up the unit's style: a number of CascadeStyles.
     [[nodiscard]] std::size_t GetCascade() const noexcept { return cascade; }
 
