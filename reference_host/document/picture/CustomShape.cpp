@@ -6,14 +6,33 @@
 #include "reference_host/document/picture/PathData.h"
 #include "reference_host/document/picture/ShapeFormulas.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <optional>
 #include <utility>
+#include <vector>
 
 namespace ReferenceHost
 {
 
 namespace
 {
+
+/// The view box as wide or as high as the proportions of the box ask for, where the shape is stretched that
+/// way instead of being distorted: the corners of a rounded rectangle stay round however wide it is.
+Box Stretched(const Box& viewBox, const ShapeElement& element, const Box& box)
+{
+    Box stretched = viewBox;
+    if (box.width <= 0 || box.height <= 0)
+        return stretched;
+    const double ratio = (box.width / box.height) / (viewBox.width / viewBox.height);
+    if (ratio > 1 && !element.Draw("path-stretchpoint-x").empty())
+        stretched.width *= ratio;
+    else if (ratio < 1 && !element.Draw("path-stretchpoint-y").empty())
+        stretched.height /= ratio;
+    return stretched;
+}
 
 /// The element that holds the path, its equations and what its handles have set.
 class EnhancedGeometry
@@ -37,13 +56,12 @@ public:
             ReadEnhancedPath(element.Draw("enhanced-path"), formulas);
         if (!parts)
             return false;
-        const Transform place = Transform::Between(viewBox, box);
-        const Transform drawn = Mirror().Then(place);
+        const Transform place = Mirror().Then(Transform::Between(viewBox, box));
         for (ShapePart& part : *parts)
-            part.contour = Mapped(part.contour, drawn);
+            part.contour = Mapped(part.contour, place);
         target.parts = *std::move(parts);
         if (const std::optional<Box> area = ReadTextArea(element.Draw("text-areas"), formulas))
-            target.textArea = Map(*area, place);
+            target.textArea = BoxBetween(place.Map(area->At(0, 0)), place.Map(area->At(1, 1)));
         return true;
     }
 
@@ -54,7 +72,9 @@ private:
         // Without a view box of its own, the path is in the lengths of the page.
         if (viewBox.width <= 0 || viewBox.height <= 0)
             viewBox = {0, 0, box.width, box.height};
-        return {viewBox, box.width, box.height, ReadModifiers()};
+        const Box written = viewBox;
+        viewBox = Stretched(written, element, box);
+        return {viewBox, box.width, box.height, ReadModifiers(), written.At(1, 1)};
     }
 
     /// Modifiers that are no numbers count as 0, so that those behind them keep their places.
@@ -72,7 +92,7 @@ private:
         return modifiers;
     }
 
-    /// Turns over within the view box. Text is not mirrored.
+    /// Turns over within the view box. Text stands elsewhere then and is not mirrored itself.
     [[nodiscard]] Transform Mirror() const
     {
         Transform mirror;
@@ -83,16 +103,15 @@ private:
         return mirror;
     }
 
-    static Box Map(const Box& area, const Transform& place)
+    static Box BoxBetween(Point corner, Point other)
     {
-        const Point corner = place.Map(area.At(0, 0));
-        const Point other = place.Map(area.At(1, 1));
-        return {corner.x, corner.y, other.x - corner.x, other.y - corner.y};
+        return {std::min(corner.x, other.x), std::min(corner.y, other.y), std::abs(other.x - corner.x),
+                std::abs(other.y - corner.y)};
     }
 
     ShapeElement element;
     Box box;
-    Box viewBox;
+    Box viewBox; ///< Stretched where it is.
     ShapeFormulas formulas;
 };
 

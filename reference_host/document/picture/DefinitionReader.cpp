@@ -142,6 +142,20 @@ std::optional<GradientDefinition> ReadSvgGradient(pugi::xml_node node, XmlNames&
     return gradient.stops.size() < 2 ? std::nullopt : std::optional(std::move(gradient));
 }
 
+/// The same, with the shares of opacity at its start and its end for colours.
+GradientDefinition ReadOpacity(const Element& element)
+{
+    const auto grey = [&](std::string_view local)
+    {
+        const double share = std::clamp(element.Share(local, 1), 0.0, 1.0);
+        const auto level = static_cast<std::uint8_t>(std::lround(255 * share));
+        return CLR_COLORSPEC::Rgb{level, level, level};
+    };
+    GradientDefinition opacity = ReadGradient(element);
+    opacity.stops = {{0, grey("start")}, {1, grey("end")}};
+    return opacity;
+}
+
 HatchDefinition ReadHatch(const Element& element)
 {
     HatchDefinition hatch;
@@ -206,6 +220,8 @@ private:
     {
         if (kind == "gradient")
             target.gradients.insert_or_assign(name, ReadGradient(element));
+        else if (kind == "opacity")
+            target.opacities.insert_or_assign(OvxUtils::FromUtf8(element.Draw("name")), ReadOpacity(element));
         else if (kind == "hatch")
             target.hatches.insert_or_assign(name, ReadHatch(element));
         else if (kind == "stroke-dash")

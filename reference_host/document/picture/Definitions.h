@@ -90,6 +90,11 @@ struct Definitions
 {
     std::map<OvxStringT, GradientDefinition> gradients;
     std::map<OvxStringT, HatchDefinition> hatches;
+
+    /// How opaque an inside is from place to place, in greys: white hides what is behind it. No panel edits
+    /// these; their names are as they stand in the file.
+    std::map<OvxStringT, GradientDefinition> opacities;
+
     std::map<OvxStringT, PictureBytes> bitmaps; ///< None null; without those that cannot be found.
     std::map<OvxStringT, DashDefinition> dashes;
     std::map<OvxStringT, MarkerDefinition> markers;

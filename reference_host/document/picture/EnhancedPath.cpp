@@ -16,8 +16,8 @@ namespace ReferenceHost
 namespace
 {
 
-/// Takes the next number, equation, modifier or keyword; none where none stands.
-std::optional<double> TakeParameter(NumberScanner& scanner, ShapeFormulas& formulas)
+/// Takes the next number, equation, modifier or keyword, horizontal or not; none where none stands.
+std::optional<double> TakeParameter(NumberScanner& scanner, ShapeFormulas& formulas, bool isAcross)
 {
     const char next = scanner.Peek();
     if (next == '?' || next == '$')
@@ -29,7 +29,7 @@ std::optional<double> TakeParameter(NumberScanner& scanner, ShapeFormulas& formu
         return index ? formulas.GetModifier(*index) : std::nullopt;
     }
     if (const std::optional<double> number = scanner.TakeNumber())
-        return number;
+        return formulas.PlaceOf(*number, isAcross);
     NumberScanner ahead = scanner;
     const std::optional<double> keyword = formulas.FindKeyword(ahead.TakeWord());
     if (keyword)
@@ -120,7 +120,7 @@ private:
             Numbers given{};
             for (std::size_t index = 0; index < command.numbers; ++index)
             {
-                const std::optional<double> number = TakeParameter(scanner, formulas);
+                const std::optional<double> number = TakeParameter(scanner, formulas, index % 2 == 0);
                 if (!number)
                     return false;
                 given[index] = *number;
@@ -249,12 +249,12 @@ std::optional<Box> ReadTextArea(std::string_view areas, ShapeFormulas& formulas)
 {
     NumberScanner scanner(areas);
     std::array<double, 4> edges{};
-    for (double& edge : edges)
+    for (std::size_t edge = 0; edge < edges.size(); ++edge)
     {
-        const std::optional<double> value = TakeParameter(scanner, formulas);
+        const std::optional<double> value = TakeParameter(scanner, formulas, edge % 2 == 0);
         if (!value)
             return std::nullopt;
-        edge = *value;
+        edges[edge] = *value;
     }
     return Box{edges[0], edges[1], edges[2] - edges[0], edges[3] - edges[1]};
 }

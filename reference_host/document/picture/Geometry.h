@@ -81,6 +81,7 @@ struct ShapePart
     Contour contour;
     bool isFilled = true;
     bool isStroked = true;
+    bool mayHaveArrows = true; ///< Of a line: false for what only leads to it.
 
     friend bool operator==(const ShapePart&, const ShapePart&) = default;
 };

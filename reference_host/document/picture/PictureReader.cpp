@@ -7,6 +7,11 @@
 #include "reference_host/document/picture/DefinitionReader.h"
 #include "reference_host/document/picture/ShapeGeometry.h"
 
+#include "host/utils/Utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
 #include <utility>
 
 namespace ReferenceHost
@@ -37,7 +42,8 @@ PictureReader::PictureReader(DrawingData& drawing)
     : data(drawing),
       content(drawing.file.form == DrawingForm::Flat ? drawing.file.bytes : drawing.file.content),
       pictures(drawing.file),
-      runTexts(names)
+      runTexts(names),
+      labels(names)
 {
     for (DrawingObject& object : data.objects)
         objectsByPlace.emplace(object.GetPlace(), &object);
@@ -50,12 +56,15 @@ DrawingPicture PictureReader::Read(const ProgressSpan& whole)
     const Tree pages = ParseCheckedXml(content, data.file.label, whole.Part(0, kParsed));
     progress = whole.Part(ProgressPhase::Picture, kParsed, 1);
     progress.Start(content.size());
-    if (!data.file.styles.empty())
-    {
-        const Tree styles = ParseCheckedXml(data.file.styles, data.file.label + ", styles.xml");
-        ReadStylesOf(styles->document_element());
-    }
+    const std::string& stylesText = data.file.styles;
+    const Tree styles =
+        stylesText.empty() ? nullptr : ParseCheckedXml(stylesText, data.file.label + ", styles.xml");
+    if (styles != nullptr)
+        ReadMasters(styles->document_element());
+    ReadMasters(pages->document_element());
     ReadStylesOf(pages->document_element());
+    if (styles != nullptr)
+        ReadStylesOf(styles->document_element());
     ReadPages(pages->document_element());
     return std::move(picture);
 }
@@ -64,34 +73,53 @@ void PictureReader::ReadStylesOf(pugi::xml_node root)
 {
     const XmlNames::Scope rootScope(names, root);
     details.AddStyles(root, names);
+    labels.AddStyles(root);
     ReadDefinitions(root, names, pictures, picture.definitions);
-    const auto readLayout = [&](pugi::xml_node layout)
-    {
-        const std::string name(names.Attribute(layout, {Odf::kStyle, "name"}));
-        ForEach(layout, names, {Odf::kStyle, "page-layout-properties"},
-                [&](pugi::xml_node element)
-                {
-                    const auto length = [&](std::string_view local) {
-                        return ParseLength(names.Attribute(element, {Odf::kFo, local})).value_or(0);
-                    };
-                    layoutSizes.try_emplace(name, Point{static_cast<double>(length("page-width")),
-                                                        static_cast<double>(length("page-height"))});
-                });
-    };
+}
+
+void PictureReader::ReadMasters(pugi::xml_node root)
+{
+    const XmlNames::Scope rootScope(names, root);
+    masterDetails.AddStyles(root, names);
     ForEach(root, names, {Odf::kOffice, "automatic-styles"},
-            [&](pugi::xml_node container) {
-                ForEach(container, names, {Odf::kStyle, "page-layout"}, readLayout);
+            [&](pugi::xml_node container)
+            {
+                ForEach(container, names, {Odf::kStyle, "page-layout"},
+                        [&](pugi::xml_node layout) { ReadLayout(layout); });
             });
     ForEach(root, names, {Odf::kOffice, "master-styles"},
             [&](pugi::xml_node container)
             {
-                ForEach(container, names, {Odf::kStyle, "master-page"},
-                        [&](pugi::xml_node master)
-                        {
-                            layoutsByMaster.try_emplace(
-                                std::string(names.Attribute(master, {Odf::kStyle, "name"})),
-                                names.Attribute(master, {Odf::kStyle, "page-layout-name"}));
-                        });
+                ForEach(
+                    container, names, {Odf::kStyle, "master-page"},
+                    [&](pugi::xml_node master)
+                    {
+                        masters.try_emplace(
+                            std::string(names.Attribute(master, {Odf::kStyle, "name"})),
+                            Master{std::string(names.Attribute(master, {Odf::kStyle, "page-layout-name"})),
+                                   std::string(names.Attribute(master, {Odf::kDraw, "style-name"}))});
+                    });
+            });
+}
+
+void PictureReader::ReadLayout(pugi::xml_node layout)
+{
+    const std::string name(names.Attribute(layout, {Odf::kStyle, "name"}));
+    ForEach(layout, names, {Odf::kStyle, "page-layout-properties"},
+            [&](pugi::xml_node element)
+            {
+                const auto length = [&](std::string_view local, double otherwise) -> double
+                {
+                    const std::optional<int> given = ParseLength(names.Attribute(element, {Odf::kFo, local}));
+                    return given ? *given : otherwise;
+                };
+                const double margin = length("margin", 0);
+                const double left = length("margin-left", margin);
+                const double top = length("margin-top", margin);
+                const Point size{length("page-width", 0), length("page-height", 0)};
+                layouts.try_emplace(name, Layout{size,
+                                                 {left, top, size.x - left - length("margin-right", margin),
+                                                  size.y - top - length("margin-bottom", margin)}});
             });
 }
 
@@ -112,23 +140,23 @@ void PictureReader::ReadPages(pugi::xml_node root)
 
 void PictureReader::ReadPage(pugi::xml_node element, PagePicture& page)
 {
-    MeasurePage(element, page);
-    ReadShapes(element, page);
-}
-
-void PictureReader::MeasurePage(pugi::xml_node element, PagePicture& page)
-{
+    const auto found = masters.find(std::string(names.Attribute(element, {Odf::kDraw, "master-page-name"})));
+    const Master master = found == masters.end() ? Master() : found->second;
+    const auto layout = layouts.find(master.layout);
     page.width = kPageWidth;
     page.height = kPageHeight;
-    const auto layout =
-        layoutsByMaster.find(std::string(names.Attribute(element, {Odf::kDraw, "master-page-name"})));
-    if (layout == layoutsByMaster.end())
-        return;
-    const auto size = layoutSizes.find(layout->second);
-    if (size == layoutSizes.end() || size->second.x <= 0 || size->second.y <= 0)
-        return;
-    page.width = size->second.x;
-    page.height = size->second.y;
+    Box inner{0, 0, kPageWidth, kPageHeight};
+    if (layout != layouts.end() && layout->second.size.x > 0 && layout->second.size.y > 0)
+    {
+        page.width = layout->second.size.x;
+        page.height = layout->second.size.y;
+        inner = layout->second.inner;
+    }
+    page.background = details.FindBackground(names.Attribute(element, {Odf::kDraw, "style-name"}));
+    if (page.background.kind == PageBackground::Kind::None)
+        page.background = masterDetails.FindBackground(master.style);
+    page.background.box = page.background.isWholePage ? Box{0, 0, page.width, page.height} : inner;
+    ReadShapes(element, page);
 }
 
 void PictureReader::ReadShapes(pugi::xml_node container, PagePicture& page)
@@ -156,10 +184,12 @@ void PictureReader::ReadShape(pugi::xml_node element, DrawingObject& object, Pag
 {
     ShapePicture& shape = page.shapes.emplace_back();
     shape.object = &object;
-    ReadGeometry(element, names, shape);
     shape.details = details.Find(names.Attribute(element, {Odf::kDraw, "style-name"}));
+    ReadGeometry(element, names, shape);
     shape.runTexts = runTexts.Read(element);
+    shape.labels = labels.Read(element);
     FindImage(element, shape);
+    shape.placeholder = FindPlaceholder(element, object);
 }
 
 void PictureReader::FindImage(pugi::xml_node frame, ShapePicture& shape)
@@ -173,6 +203,32 @@ void PictureReader::FindImage(pugi::xml_node frame, ShapePicture& shape)
                 if (shape.image == nullptr)
                     shape.image = pictures.Find(image, names);
             });
+}
+
+/// Frames hold what can be shown, pictures and text, and what cannot; controls and the like never can.
+OvxStringT PictureReader::FindPlaceholder(pugi::xml_node element, const DrawingObject& object)
+{
+    constexpr std::array<std::string_view, 3> kNeverShown{"control", "page-thumbnail", "scene"};
+    const std::string_view kind = names.Of(element).local;
+    const bool isFrame = kind == "frame";
+    if (!isFrame && std::ranges::find(kNeverShown, kind) == kNeverShown.end())
+        return {};
+    OvxStringT text = object.GetName();
+    for (const pugi::xml_node child : element.children())
+    {
+        if (!isFrame || child.type() != pugi::node_element)
+            continue;
+        const XmlNames::Scope scope(names, child);
+        const XmlName name = names.Of(child);
+        if (name == XmlName{Odf::kDraw, "text-box"})
+            return {};
+        const std::string_view reference = names.Attribute(child, {Odf::kXlink, "href"});
+        if (text.empty() && !reference.empty())
+            text = OvxUtils::FromUtf8(reference.substr(reference.rfind('/') + 1));
+        else if (text.empty())
+            text = OvxUtils::FromUtf8(name.local);
+    }
+    return text.empty() ? OvxUtils::FromUtf8(kind) : text;
 }
 
 } // namespace ReferenceHost

@@ -4,6 +4,7 @@
 #include "reference_host/document/ProgressMeter.h"
 #include "reference_host/document/XmlNames.h"
 #include "reference_host/document/picture/DrawingPicture.h"
+#include "reference_host/document/picture/ListLabels.h"
 #include "reference_host/document/picture/PackagePictures.h"
 #include "reference_host/document/picture/RunTexts.h"
 #include "reference_host/document/picture/StyleDetails.h"
@@ -32,13 +33,27 @@ public:
 private:
     using Tree = std::unique_ptr<pugi::xml_document>;
 
+    struct Layout
+    {
+        Point size;
+        Box inner; ///< Within the margins.
+    };
+
+    struct Master
+    {
+        std::string layout;
+        std::string style;
+    };
+
     void ReadStylesOf(pugi::xml_node root);
+    void ReadMasters(pugi::xml_node root);
+    void ReadLayout(pugi::xml_node layout);
     void ReadPages(pugi::xml_node root);
     void ReadPage(pugi::xml_node element, PagePicture& page);
     void ReadShapes(pugi::xml_node container, PagePicture& page);
     void ReadShape(pugi::xml_node element, DrawingObject& object, PagePicture& page);
     void FindImage(pugi::xml_node frame, ShapePicture& shape);
-    void MeasurePage(pugi::xml_node element, PagePicture& page);
+    [[nodiscard]] OvxStringT FindPlaceholder(pugi::xml_node element, const DrawingObject& object);
 
     DrawingData& data;
     std::string_view content; ///< The XML text that the places of objects are in.
@@ -46,9 +61,11 @@ private:
     XmlNames names;
     PackagePictures pictures;
     StyleDetails details;
+    StyleDetails masterDetails; ///< What master pages refer to, whose automatic styles are their own.
     RunTexts runTexts;
-    std::unordered_map<std::string, Point> layoutSizes;           ///< Of page layouts by their names.
-    std::unordered_map<std::string, std::string> layoutsByMaster; ///< Of master pages by their names.
+    ListLabels labels;
+    std::unordered_map<std::string, Layout> layouts; ///< By their names.
+    std::unordered_map<std::string, Master> masters; ///< By their names.
     DrawingPicture picture;
     ProgressSpan progress; ///< Of the content.
 };

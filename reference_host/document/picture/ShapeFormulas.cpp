@@ -185,6 +185,16 @@ std::optional<double> ShapeFormulas::GetModifier(std::size_t index) const
                                                  : std::nullopt;
 }
 
+double ShapeFormulas::PlaceOf(double number, bool isAcross) const
+{
+    if (!surroundings.writtenEdges)
+        return number;
+    const Point edges = surroundings.viewBox.At(1, 1);
+    if (isAcross)
+        return number == surroundings.writtenEdges->x ? edges.x : number;
+    return number == surroundings.writtenEdges->y ? edges.y : number;
+}
+
 std::optional<double> ShapeFormulas::FindKeyword(std::string_view word) const
 {
     const Box& box = surroundings.viewBox;

@@ -25,6 +25,10 @@ public:
         double shapeWidth = 0;         ///< Hundredths of a millimetre.
         double shapeHeight = 0;        ///< Hundredths of a millimetre.
         std::vector<double> modifiers; ///< What the handles of the shape have set: "$0" and on.
+
+        /// The right and the lower edge of the view box as the path writes them, where the view box was
+        /// stretched since; none for edges that stayed.
+        std::optional<Point> writtenEdges = std::nullopt;
     };
 
     explicit ShapeFormulas(Surroundings around) : surroundings(std::move(around)) {}
@@ -41,6 +45,9 @@ public:
 
     /// What a keyword stands for ("left", "logwidth", ...); none for an unknown one.
     [[nodiscard]] std::optional<double> FindKeyword(std::string_view word) const;
+
+    /// A number of a path, horizontal or not: the edge of the view box for what the path writes for it.
+    [[nodiscard]] double PlaceOf(double number, bool isAcross) const;
 
     /// The value of a formula by itself.
     [[nodiscard]] std::optional<double> Calculate(std::string_view formula);

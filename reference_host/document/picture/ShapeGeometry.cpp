@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numbers>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -107,12 +108,78 @@ void ReadEllipse(const ShapeElement& shape, ShapePicture& target)
     AddPart(target, builder.Take(), !target.isLine);
 }
 
-void ReadStraightLine(const ShapeElement& shape, ShapePicture& target)
+Contour LineBetween(Point start, Point end)
 {
     ContourBuilder builder;
-    builder.MoveTo({shape.Length("x1"), shape.Length("y1")});
-    builder.LineTo({shape.Length("x2"), shape.Length("y2")});
-    AddLine(target, builder.Take());
+    builder.MoveTo(start);
+    builder.LineTo(end);
+    return builder.Take();
+}
+
+/// The way from `start` to `end` in degrees, turned around where text would stand on its head.
+double ReadableAngle(Point start, Point end)
+{
+    const double angle = std::atan2(end.y - start.y, end.x - start.x) * 180 / std::numbers::pi;
+    if (angle > 90)
+        return angle - 180;
+    return angle <= -90 ? angle + 180 : angle;
+}
+
+Point StartOf(const ShapeElement& shape)
+{
+    return {shape.Length("x1"), shape.Length("y1")};
+}
+
+Point EndOf(const ShapeElement& shape)
+{
+    return {shape.Length("x2"), shape.Length("y2")};
+}
+
+void ReadStraightLine(const ShapeElement& shape, ShapePicture& target)
+{
+    AddLine(target, LineBetween(StartOf(shape), EndOf(shape)));
+    target.textAngle = ReadableAngle(StartOf(shape), EndOf(shape));
+}
+
+/// A line beside what is measured, with a guide from each end of it.
+void ReadMeasure(const ShapeElement& shape, ShapePicture& target)
+{
+    const Point start = StartOf(shape);
+    const Point end = EndOf(shape);
+    const double length = std::hypot(end.x - start.x, end.y - start.y);
+    if (length <= 0)
+        return ReadStraightLine(shape, target);
+    const ShapeDetails& details = target.details;
+    const auto beside = [&](Point point, double distance)
+    {
+        return Point{point.x + distance * (end.y - start.y) / length,
+                     point.y - distance * (end.x - start.x) / length};
+    };
+    const double distance = details.measureDistance;
+    AddLine(target, LineBetween(beside(start, distance), beside(end, distance)));
+    const double side = distance < 0 ? -1 : 1;
+    for (const Point corner : {start, end})
+    {
+        target.parts.push_back({LineBetween(beside(corner, side * details.guideGap),
+                                            beside(corner, distance + side * details.guideOverhang)),
+                                false, true, false});
+    }
+    target.textAngle = ReadableAngle(start, end);
+    target.isTextAbove = true;
+}
+
+/// The way of a connector that does not give it: across, down and across for one of the standard kind.
+Contour ConnectorRoute(std::string_view type, Point start, Point end)
+{
+    if (!type.empty() && type != "standard")
+        return LineBetween(start, end);
+    const double middle = (start.x + end.x) / 2;
+    ContourBuilder builder;
+    builder.MoveTo(start);
+    builder.LineTo({middle, start.y});
+    builder.LineTo({middle, end.y});
+    builder.LineTo(end);
+    return builder.Take();
 }
 
 /// The path of a connector is in hundredths of a millimetre, whatever its view box says; programs that count
@@ -120,9 +187,9 @@ void ReadStraightLine(const ShapeElement& shape, ShapePicture& target)
 void ReadConnector(const ShapeElement& shape, ShapePicture& target)
 {
     Contour path = ParsePathData(shape.Svg("d"));
+    const Point start = StartOf(shape);
     if (path.size() < 2)
-        return ReadStraightLine(shape, target);
-    const Point start{shape.Length("x1"), shape.Length("y1")};
+        return AddLine(target, ConnectorRoute(shape.Draw("type"), start, EndOf(shape)));
     const Point drawn = path.front().end;
     AddLine(target, Mapped(path, {1, 0, 0, 1, start.x - drawn.x, start.y - drawn.y}));
 }
@@ -217,7 +284,7 @@ constexpr std::array<Kind, 13> kKinds{{{"rect", ReadRectangle},
                                        {"ellipse", ReadEllipse},
                                        {"circle", ReadEllipse},
                                        {"line", ReadStraightLine},
-                                       {"measure", ReadStraightLine},
+                                       {"measure", ReadMeasure},
                                        {"connector", ReadConnector},
                                        {"polyline", ReadPolyline},
                                        {"polygon", ReadPolygon},

@@ -2,9 +2,16 @@
 
 #include "reference_host/document/Measures.h"
 #include "reference_host/document/OdfNamespaces.h"
+#include "reference_host/document/PropertyCodecs.h"
+#include "reference_host/document/StyleNames.h"
+#include "reference_host/document/picture/NumberScanner.h"
+
+#include "host/utils/Utf8.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <optional>
 #include <utility>
 
 namespace ReferenceHost
@@ -16,7 +23,7 @@ namespace
 /// How many styles are climbed: cycles of parents end here.
 constexpr int kMostParents = 256;
 
-constexpr std::array<XmlName, 17> kAttributes{{{Odf::kFo, "padding"},
+constexpr std::array<XmlName, 35> kAttributes{{{Odf::kFo, "padding"},
                                                {Odf::kFo, "padding-left"},
                                                {Odf::kFo, "padding-top"},
                                                {Odf::kFo, "padding-right"},
@@ -32,7 +39,34 @@ constexpr std::array<XmlName, 17> kAttributes{{{Odf::kFo, "padding"},
                                                {Odf::kDraw, "marker-start-width"},
                                                {Odf::kDraw, "marker-end-width"},
                                                {Odf::kDraw, "marker-start-center"},
-                                               {Odf::kDraw, "marker-end-center"}}};
+                                               {Odf::kDraw, "marker-end-center"},
+                                               {Odf::kDraw, "fill-image-ref-point"},
+                                               {Odf::kDraw, "gradient-step-count"},
+                                               {Odf::kDraw, "opacity-name"},
+                                               {Odf::kDraw, "shadow"},
+                                               {Odf::kDraw, "shadow-offset-x"},
+                                               {Odf::kDraw, "shadow-offset-y"},
+                                               {Odf::kDraw, "shadow-color"},
+                                               {Odf::kDraw, "shadow-opacity"},
+                                               {Odf::kDraw, "line-distance"},
+                                               {Odf::kDraw, "guide-overhang"},
+                                               {Odf::kDraw, "guide-distance"},
+                                               {Odf::kDraw, "fill"},
+                                               {Odf::kDraw, "fill-color"},
+                                               {Odf::kDraw, "fill-gradient-name"},
+                                               {Odf::kDraw, "fill-hatch-name"},
+                                               {Odf::kDraw, "fill-image-name"},
+                                               {Odf::kDraw, "opacity"},
+                                               {Odf::kDraw, "background-size"}}};
+
+constexpr std::string_view kGraphic = "graphic";
+constexpr std::string_view kPage = "drawing-page";
+
+/// Styles of the two families may share their names.
+std::string KeyOf(std::string_view family, std::string_view name)
+{
+    return std::string(family) + ' ' + std::string(name);
+}
 
 double LengthOf(std::string_view text)
 {
@@ -67,10 +101,54 @@ ShapeDetails::BitmapFit FitOf(std::string_view text)
     return text == "no-repeat" ? ShapeDetails::BitmapFit::Once : ShapeDetails::BitmapFit::Tile;
 }
 
+/// "top-left" to "bottom-right", with "left" and "top" standing for the middle of that side.
+Point AnchorOf(std::string_view text)
+{
+    const auto share = [&](std::string_view start, std::string_view end)
+    {
+        if (text.find(start) != std::string_view::npos)
+            return 0.0;
+        return text.find(end) != std::string_view::npos ? 1.0 : 0.5;
+    };
+    return {share("left", "right"), share("top", "bottom")};
+}
+
+/// The percentage that is not opaque.
+int TransparencyOf(std::string_view opacity)
+{
+    return 100 - static_cast<int>(std::lround(std::clamp(ParsePercent(opacity).value_or(100), 0.0, 100.0)));
+}
+
+PageBackground::Kind KindOf(std::string_view text)
+{
+    using Kind = PageBackground::Kind;
+    constexpr std::array<std::pair<std::string_view, Kind>, 4> kinds{{{"solid", Kind::Solid},
+                                                                      {"gradient", Kind::Gradient},
+                                                                      {"hatch", Kind::Hatch},
+                                                                      {"bitmap", Kind::Bitmap}}};
+    const auto* const found = std::ranges::find(kinds, text, &std::pair<std::string_view, Kind>::first);
+    return found == kinds.end() ? Kind::None : found->second;
+}
+
+/// What belongs to the fill alone. `look` finds an attribute by its local name.
+template <class Look>
+void ReadFill(const Look& look, ShapeDetails& details)
+{
+    details.isFillingHatches = look("fill-hatch-solid") == "true";
+    details.bitmapFit = FitOf(look("repeat"));
+    details.bitmapSize = {LengthOf(look("fill-image-width")), LengthOf(look("fill-image-height"))};
+    details.bitmapAnchor = AnchorOf(look("fill-image-ref-point"));
+    constexpr double kMostSteps = 256;
+    details.gradientSteps = static_cast<int>(
+        std::clamp(NumberScanner(look("gradient-step-count")).TakeNumber().value_or(0), 0.0, kMostSteps));
+    details.opacity = OvxUtils::FromUtf8(look("opacity-name"));
+}
+
 } // namespace
 
 void StyleDetails::AddStyles(pugi::xml_node root, XmlNames& names)
 {
+    known.clear();
     for (const pugi::xml_node container : root.children())
     {
         const XmlNames::Scope scope(names, container);
@@ -87,15 +165,17 @@ void StyleDetails::AddStyle(pugi::xml_node style, XmlNames& names)
     const XmlNames::Scope scope(names, style);
     const XmlName name = names.Of(style);
     const bool isDefault = name == XmlName{Odf::kStyle, "default-style"};
-    if ((!isDefault && name != XmlName{Odf::kStyle, "style"}) ||
-        names.Attribute(style, {Odf::kStyle, "family"}) != "graphic")
+    const std::string_view family = names.Attribute(style, {Odf::kStyle, "family"});
+    if ((!isDefault && name != XmlName{Odf::kStyle, "style"}) || (family != kGraphic && family != kPage))
         return;
     Record record;
     record.parent = names.Attribute(style, {Odf::kStyle, "parent-style-name"});
     for (const pugi::xml_node element : style.children())
     {
         const XmlNames::Scope elementScope(names, element);
-        if (names.Of(element) != XmlName{Odf::kStyle, "graphic-properties"})
+        const XmlName kind = names.Of(element);
+        if (kind != XmlName{Odf::kStyle, "graphic-properties"} &&
+            kind != XmlName{Odf::kStyle, "drawing-page-properties"})
             continue;
         for (const XmlName& attribute : kAttributes)
         {
@@ -103,18 +183,19 @@ void StyleDetails::AddStyle(pugi::xml_node style, XmlNames& names)
                 record.attributes.emplace(attribute.local, names.Attribute(element, attribute));
         }
     }
-    if (isDefault)
+    if (!isDefault)
+        records.emplace(KeyOf(family, names.Attribute(style, {Odf::kStyle, "name"})), std::move(record));
+    else if (family == kGraphic)
         defaults.merge(record.attributes);
-    else
-        records.emplace(names.Attribute(style, {Odf::kStyle, "name"}), std::move(record));
 }
 
-std::string_view StyleDetails::Look(std::string_view styleName, std::string_view attribute) const
+std::string_view StyleDetails::Look(std::string_view family, std::string_view styleName,
+                                    std::string_view attribute) const
 {
-    std::string_view name = styleName;
+    std::string name(styleName);
     for (int climbed = 0; climbed < kMostParents; ++climbed)
     {
-        const auto record = records.find(name);
+        const auto record = records.find(KeyOf(family, name));
         if (record == records.end())
             break;
         const auto found = record->second.attributes.find(attribute);
@@ -123,12 +204,37 @@ std::string_view StyleDetails::Look(std::string_view styleName, std::string_view
         name = record->second.parent;
     }
     const auto found = defaults.find(attribute);
-    return found == defaults.end() ? std::string_view() : found->second;
+    return found == defaults.end() || family != kGraphic ? std::string_view() : found->second;
 }
 
-ShapeDetails StyleDetails::Find(std::string_view styleName) const
+PageBackground StyleDetails::FindBackground(std::string_view styleName) const
 {
-    const auto look = [&](std::string_view attribute) { return Look(styleName, attribute); };
+    const auto look = [&](std::string_view attribute) { return Look(kPage, styleName, attribute); };
+    PageBackground background;
+    background.kind = KindOf(look("fill"));
+    background.colour = ParseColour(look("fill-color")).value_or(CLR_COLORSPEC::Rgb{255, 255, 255});
+    background.transparency = TransparencyOf(look("opacity"));
+    using Kind = PageBackground::Kind;
+    if (background.kind == Kind::Gradient)
+        background.definition = DecodeStyleName(look("fill-gradient-name"));
+    else if (background.kind == Kind::Hatch)
+        background.definition = DecodeStyleName(look("fill-hatch-name"));
+    else if (background.kind == Kind::Bitmap)
+        background.definition = DecodeStyleName(look("fill-image-name"));
+    background.isWholePage = look("background-size") == "full";
+    ReadFill(look, background.details);
+    return background;
+}
+
+const ShapeDetails& StyleDetails::Find(std::string_view styleName)
+{
+    const auto found = known.find(styleName);
+    return found != known.end() ? found->second : known.emplace(styleName, Read(styleName)).first->second;
+}
+
+ShapeDetails StyleDetails::Read(std::string_view styleName) const
+{
+    const auto look = [&](std::string_view attribute) { return Look(kGraphic, styleName, attribute); };
     const auto padding = [&](std::string_view side)
     {
         const std::string_view own = look(side);
@@ -144,13 +250,26 @@ ShapeDetails StyleDetails::Find(std::string_view styleName) const
     // What grows with its text has the width that the text needs, perhaps in another font than ours.
     const std::string_view wrap = look("wrap-option");
     details.isWrapped = wrap.empty() ? look("auto-grow-width") != "true" : wrap != "no-wrap";
-    details.isFillingHatches = look("fill-hatch-solid") == "true";
-    details.bitmapFit = FitOf(look("repeat"));
-    details.bitmapSize = {LengthOf(look("fill-image-width")), LengthOf(look("fill-image-height"))};
+    ReadFill(look, details);
     details.startArrowWidth = LengthOf(look("marker-start-width"));
     details.endArrowWidth = LengthOf(look("marker-end-width"));
     details.isStartArrowCentred = look("marker-start-center") == "true";
     details.isEndArrowCentred = look("marker-end-center") == "true";
+    if (look("shadow") == "visible")
+    {
+        details.shadow = ShapeDetails::Shadow{
+            {LengthOf(look("shadow-offset-x")), LengthOf(look("shadow-offset-y"))},
+            ParseColour(look("shadow-color")).value_or(CLR_COLORSPEC::Rgb{0x80, 0x80, 0x80}),
+            TransparencyOf(look("shadow-opacity"))};
+    }
+    const auto distance = [&](std::string_view attribute, double& target)
+    {
+        if (const std::optional<int> length = ParseLength(look(attribute)))
+            target = *length;
+    };
+    distance("line-distance", details.measureDistance);
+    distance("guide-overhang", details.guideOverhang);
+    distance("guide-distance", details.guideGap);
     return details;
 }
 

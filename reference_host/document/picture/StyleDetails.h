@@ -13,7 +13,8 @@
 namespace ReferenceHost
 {
 
-/// Finds the attributes of graphic styles that no panel edits, along the styles that they inherit from.
+/// Finds the attributes of the styles of shapes and pages that no panel edits, along the styles that they
+/// inherit from.
 class StyleDetails
 {
 public:
@@ -22,7 +23,11 @@ public:
     void AddStyles(pugi::xml_node root, XmlNames& names);
 
     /// What a shape of that style shows; what the default style gives for an unknown one.
-    [[nodiscard]] ShapeDetails Find(std::string_view styleName) const;
+    /// Borrowed until styles are added.
+    [[nodiscard]] const ShapeDetails& Find(std::string_view styleName);
+
+    /// What pages of that style show behind their shapes; nothing for an unknown one.
+    [[nodiscard]] PageBackground FindBackground(std::string_view styleName) const;
 
 private:
     using Attributes = std::map<std::string, std::string, std::less<>>;
@@ -34,12 +39,15 @@ private:
     };
 
     void AddStyle(pugi::xml_node style, XmlNames& names);
+    [[nodiscard]] ShapeDetails Read(std::string_view styleName) const;
 
     /// An attribute of a style, or of the nearest one that it inherits from; empty without.
-    [[nodiscard]] std::string_view Look(std::string_view styleName, std::string_view attribute) const;
+    [[nodiscard]] std::string_view Look(std::string_view family, std::string_view styleName,
+                                        std::string_view attribute) const;
 
-    std::map<std::string, Record, std::less<>> records;
+    std::map<std::string, Record, std::less<>> records; ///< By family and name.
     Attributes defaults;
+    std::map<std::string, ShapeDetails, std::less<>> known; ///< Thousands of shapes share a few styles.
 };
 
 } // namespace ReferenceHost

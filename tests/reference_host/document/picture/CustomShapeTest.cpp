@@ -63,6 +63,29 @@ TEST(CustomShapes, HaveATextArea)
     EXPECT_EQ(TextOf(drawing.Shape().textArea), "2000,2000 2000x1000");
 }
 
+TEST(CustomShapes, MoveTheirTextAreaWhenTheyAreMirrored)
+{
+    const ShownDrawing drawing =
+        ShowCustom(R"( svg:viewBox="0 0 100 100" draw:text-areas="0 0 50 50" draw:mirror-horizontal="true")"
+                   R"( draw:enhanced-path="M 0 0 L 1 1")");
+
+    EXPECT_EQ(TextOf(drawing.Shape().textArea), "3000,2000 2000x1000");
+}
+
+TEST(CustomShapes, GrowInTheMiddleWhereTheyAreStretched)
+{
+    // Twice as wide as high: what is 10 from a side stays a tenth of the height from it.
+    const ShownDrawing drawing = ShowCustom(
+        R"( svg:viewBox="0 0 100 100" draw:path-stretchpoint-x="50" draw:path-stretchpoint-y="50")"
+        R"( draw:text-areas="10 10 ?f0 ?f1" draw:enhanced-path="M 10 0 L ?f0 0 100 10 100 100 0 100 0 10 Z N")",
+        R"(<draw:equation draw:name="f0" draw:formula="right-10"/>)"
+        R"(<draw:equation draw:name="f1" draw:formula="bottom-10"/>)");
+
+    EXPECT_THAT(PartsOnPage(drawing.Shape()),
+                ElementsAre("M1200,2000 L4800,2000 L5000,2200 L5000,4000 L1000,4000 L1000,2200 Z"));
+    EXPECT_EQ(TextOf(drawing.Shape().textArea), "1200,2200 3600x1600");
+}
+
 TEST(CustomShapes, ThatCannotBeEvaluatedHaveTheOutlineOfTheirBox)
 {
     const ShownDrawing drawing =

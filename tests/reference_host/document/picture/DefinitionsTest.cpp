@@ -119,4 +119,15 @@ TEST(DefinedBitmaps, HoldTheBytesOfThePicture)
     EXPECT_EQ(*all.bitmaps.at(L"B"), "style");
 }
 
+TEST(DefinedOpacities, AreGreysUnderTheNamesInTheFile)
+{
+    const Definitions all = Define(
+        R"(<draw:opacity draw:name="See_20_through" draw:display-name="See through" draw:style="axial")"
+        R"( draw:start="100%" draw:end="20%"/>)");
+
+    const GradientDefinition& opacity = all.opacities.at(L"See_20_through");
+    EXPECT_EQ(opacity.kind, GradientDefinition::Kind::Axial);
+    EXPECT_THAT(opacity.stops, ElementsAre(Stop{0, Rgb{255, 255, 255}}, Stop{1, Rgb{51, 51, 51}}));
+}
+
 } // namespace

@@ -140,4 +140,73 @@ TEST(DrawingPicture, IsWhatTheFileSaysAfterEdits)
     EXPECT_EQ(drawing.opened.drawing->ReadPicture().pages.at(0).shapes.size(), 1U);
 }
 
+/// A drawing whose page of 10 by 5 cm has margins of 1 cm, with a style of its own and one of its master.
+ReferenceHost::PageBackground BackgroundOf(const std::string& ofPage, const std::string& ofMaster)
+{
+    const auto style = [](const std::string& name, const std::string& properties)
+    {
+        return "<style:style style:name=\"" + name + R"(" style:family="drawing-page">)" +
+               "<style:drawing-page-properties " + properties + "/></style:style>";
+    };
+    std::string text =
+        FlatDrawing()
+            .Automatic(style("dp1", ofPage) + style("Mdp1", ofMaster) +
+                       R"(<style:page-layout style:name="L"><style:page-layout-properties fo:margin="1cm")"
+                       R"( fo:page-width="10cm" fo:page-height="5cm"/></style:page-layout>)")
+            .Page("")
+            .Text();
+    const std::string page = "<draw:page";
+    text.insert(text.find(page) + page.size(), R"( draw:style-name="dp1" draw:master-page-name="M")");
+    text.insert(text.find("<office:body>"),
+                R"(<office:master-styles><style:master-page style:name="M" style:page-layout-name="L")"
+                R"( draw:style-name="Mdp1"/></office:master-styles>)");
+    return ShownDrawing(OpenText(text)).picture.pages.at(0).background;
+}
+
+TEST(PageBackgrounds, AreThoseOfTheMasterWithinTheMargins)
+{
+    const auto background =
+        BackgroundOf("", R"(draw:fill="solid" draw:fill-color="#102030" draw:opacity="70%")");
+
+    EXPECT_EQ(background.kind, ReferenceHost::PageBackground::Kind::Solid);
+    EXPECT_EQ(background.colour, (CLR_COLORSPEC::Rgb{0x10, 0x20, 0x30}));
+    EXPECT_EQ(background.transparency, 30);
+    EXPECT_EQ(background.box, (ReferenceHost::Box{1000, 1000, 8000, 3000}));
+}
+
+TEST(PageBackgrounds, AreThoseOfThePageFirst)
+{
+    const auto background = BackgroundOf(
+        R"(draw:fill="gradient" draw:fill-gradient-name="Deep_20_Sea" draw:background-size="full")",
+        R"(draw:fill="solid" draw:fill-color="#102030")");
+
+    EXPECT_EQ(background.kind, ReferenceHost::PageBackground::Kind::Gradient);
+    EXPECT_EQ(background.definition, OvxStringT(L"Deep Sea"));
+    EXPECT_EQ(background.box, (ReferenceHost::Box{0, 0, 10000, 5000}));
+}
+
+TEST(PageBackgrounds, AreNothingWithoutAFill)
+{
+    EXPECT_EQ(BackgroundOf("", "").kind, ReferenceHost::PageBackground::Kind::None);
+}
+
+TEST(Placeholders, NameWhatCannotBeShown)
+{
+    const auto placeholderOf = [](const std::string& shape) { return ShowShapes(shape).Shape().placeholder; };
+
+    EXPECT_EQ(placeholderOf(R"(<draw:frame draw:name="Sales"><draw:object/></draw:frame>)"),
+              OvxStringT(L"Sales"));
+    EXPECT_EQ(placeholderOf(R"(<draw:frame><draw:image xlink:href="Pictures/a.wmf"/></draw:frame>)"),
+              OvxStringT(L"a.wmf"));
+    EXPECT_EQ(placeholderOf("<draw:frame><draw:object/></draw:frame>"), OvxStringT(L"object"));
+    EXPECT_EQ(placeholderOf("<draw:control/>"), OvxStringT(L"control"));
+}
+
+TEST(Placeholders, AreNotForTextAndShapes)
+{
+    EXPECT_EQ(ShowShapes(R"(<draw:frame draw:name="T"><draw:text-box/></draw:frame>)").Shape().placeholder,
+              OvxStringT());
+    EXPECT_EQ(ShowShapes(R"(<draw:rect draw:name="R"/>)").Shape().placeholder, OvxStringT());
+}
+
 } // namespace

@@ -66,4 +66,25 @@ TEST(ShapeDetails, TellHowArrowsAndBitmapsAreFitted)
     EXPECT_DOUBLE_EQ(details.bitmapSize.x, 1000);
 }
 
+TEST(ShapeDetails, HaveAShadowWhereItIsVisible)
+{
+    const std::string shadow = R"(draw:shadow-offset-x="3mm" draw:shadow-offset-y="-1mm")"
+                               R"( draw:shadow-color="#102030" draw:shadow-opacity="70%")";
+
+    EXPECT_FALSE(DetailsOf(shadow, "", R"(draw:shadow="hidden")").shadow);
+    EXPECT_EQ(DetailsOf(shadow, "", R"(draw:shadow="visible")").shadow,
+              (ShapeDetails::Shadow{{300, -100}, {0x10, 0x20, 0x30}, 30}));
+}
+
+TEST(ShapeDetails, TellHowFillsAreFitted)
+{
+    const ShapeDetails details =
+        DetailsOf("", R"(draw:fill-image-ref-point="bottom-left" draw:opacity-name="Veil_20_1")",
+                  R"(draw:gradient-step-count="5")");
+
+    EXPECT_EQ(details.bitmapAnchor, (ReferenceHost::Point{0, 1}));
+    EXPECT_EQ(details.opacity, OvxStringT(L"Veil_20_1"));
+    EXPECT_EQ(details.gradientSteps, 5);
+}
+
 } // namespace

@@ -126,10 +126,46 @@ TEST(ShapeGeometry, OfAConnectorBeginsWhereItSays)
     EXPECT_THAT(PartsOf("connector", attributes), ElementsAre("M1000,1000 L3000,1000 unfilled"));
 }
 
-TEST(ShapeGeometry, OfAConnectorWithoutAPathIsStraight)
+TEST(ShapeGeometry, OfAConnectorWithoutAPathGoesAcrossAndDown)
 {
     EXPECT_THAT(PartsOf("connector", R"( svg:x1="1cm" svg:y1="1cm" svg:x2="3cm" svg:y2="2cm")"),
-                ElementsAre("M1000,1000 L3000,2000 unfilled"));
+                ElementsAre("M1000,1000 L2000,1000 L2000,2000 L3000,2000 unfilled"));
+}
+
+TEST(ShapeGeometry, OfAConnectorThatIsALineIsStraight)
+{
+    EXPECT_THAT(
+        PartsOf("connector", R"( draw:type="line" svg:x1="1cm" svg:y1="1cm" svg:x2="3cm" svg:y2="2cm")"),
+        ElementsAre("M1000,1000 L3000,2000 unfilled"));
+}
+
+TEST(ShapeGeometry, OfAMeasureIsALineBesideWithAGuideFromEachEnd)
+{
+    const ShownDrawing drawing(
+        FlatDrawing()
+            .Automatic("graphic", R"(style:name="m")",
+                       R"(<style:graphic-properties draw:line-distance="1cm" draw:guide-overhang="2mm")"
+                       R"( draw:guide-distance="1mm"/>)")
+            .Page(
+                R"(<draw:measure draw:style-name="m" svg:x1="1cm" svg:y1="3cm" svg:x2="5cm" svg:y2="3cm"/>)")
+            .Open());
+
+    EXPECT_THAT(PartsOnPage(drawing.Shape()),
+                ElementsAre("M1000,2000 L5000,2000 unfilled", "M1000,2900 L1000,1800 unfilled",
+                            "M5000,2900 L5000,1800 unfilled"));
+    EXPECT_TRUE(drawing.Shape().parts[0].mayHaveArrows);
+    EXPECT_FALSE(drawing.Shape().parts[1].mayHaveArrows);
+    EXPECT_TRUE(drawing.Shape().isTextAbove);
+}
+
+TEST(ShapeGeometry, OfALineTurnsItsTextSoThatItCanBeRead)
+{
+    const auto angleOf = [](const std::string& ends)
+    { return ShowShapes("<draw:line svg:x1=\"5cm\" svg:y1=\"5cm\" " + ends + "/>").Shape().textAngle; };
+
+    EXPECT_NEAR(angleOf(R"(svg:x2="6cm" svg:y2="6cm")"), 45, 1e-9);
+    EXPECT_NEAR(angleOf(R"(svg:x2="4cm" svg:y2="4cm")"), 45, 1e-9) << "not upside down";
+    EXPECT_NEAR(angleOf(R"(svg:x2="4cm" svg:y2="6cm")"), -45, 1e-9);
 }
 
 TEST(ShapeGeometry, OfARegularPolygonBeginsAtTheTop)
