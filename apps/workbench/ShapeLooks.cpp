@@ -225,21 +225,42 @@ RunLook ReadRun(const Style& whole)
     return look;
 }
 
+/// What `style` was read to be before, else what `read` finds now. `style` is never null.
+template <class Look, class Read>
+const Look& Remembered(std::unordered_map<const Style*, Look>& known, const Style* style, const Read& read)
+{
+    const auto found = known.find(style);
+    return found != known.end() ? found->second : known.emplace(style, read(*style)).first->second;
+}
+
 } // namespace
 
-ShapeLook LookOf(ReferenceHost::DrawingObject& object)
+ShapeLook LookReader::Read(const ReferenceHost::DrawingObject& object)
 {
     ShapeLook look;
-    const Style* const style = object.GetStyle();
+    const Style* const style = object.GetStyleToRead();
     if (style == nullptr)
         return look;
-    look.inside = ReadInside(*style);
-    look.line = ReadLine(*style);
-    for (ReferenceHost::TextUnit& paragraph : object.GetParagraphs())
-        look.paragraphs.push_back(ReadParagraph(*paragraph.GetStyle()));
-    for (ReferenceHost::TextUnit& run : object.GetRuns())
-        look.runs.push_back(ReadRun(*run.GetStyle()));
+    const GraphicLook& graphic = Remembered(graphics, style,
+                                            [](const Style& whole) {
+                                                return GraphicLook{ReadInside(whole), ReadLine(whole)};
+                                            });
+    look.inside = graphic.inside;
+    look.line = graphic.line;
+    look.paragraphs.reserve(object.GetParagraphs().size());
+    for (const ReferenceHost::TextUnit& paragraph : object.GetParagraphs())
+        look.paragraphs.push_back(Remembered(paragraphs, paragraph.GetStyleToRead(), ReadParagraph));
+    look.runs.reserve(object.GetRuns().size());
+    for (const ReferenceHost::TextUnit& run : object.GetRuns())
+        look.runs.push_back(Remembered(runs, run.GetStyleToRead(), ReadRun));
     return look;
+}
+
+void LookReader::Forget()
+{
+    graphics.clear();
+    paragraphs.clear();
+    runs.clear();
 }
 
 } // namespace Workbench

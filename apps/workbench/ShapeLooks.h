@@ -2,11 +2,16 @@
 
 #include "host/colour/CLR_COLORSPEC.h"
 #include "host/utils/OvxStringT.h"
-#include "reference_host/document/Drawing.h"
 #include "reference_host/document/DrawingObject.h"
 #include "reference_host/document/TextUnit.h"
 
+#include <unordered_map>
 #include <vector>
+
+namespace Styles
+{
+class Style;
+}
 
 namespace Workbench
 {
@@ -116,13 +121,36 @@ struct ShapeLook
     LineLook line;
     std::vector<ParagraphLook> paragraphs; ///< One for each paragraph of the object.
     std::vector<RunLook> runs;             ///< One for each run of the object.
+
+    friend bool operator==(const ShapeLook&, const ShapeLook&) = default;
 };
 
-/// The effective values of a shape and of its text as they are now. What nothing sets has the defaults above.
-/// `object` is no group.
+/// Reads what shapes look like. A canvas draws thousands of them, more than can be handed in to panels one by
+/// one; this is its view of their styles. It makes no styles and changes none.
 ///
-/// A canvas draws thousands of objects, more than can be handed in to panels one by one; this is its view of
-/// their styles, and it reads only.
-[[nodiscard]] ShapeLook LookOf(ReferenceHost::DrawingObject& object);
+/// Shapes that the file gives one style each would be read again and again: what one of them showed is kept
+/// for the others until Forget().
+class LookReader
+{
+public:
+    /// The effective values of a shape and of its text. What nothing sets has the defaults above. `object` is
+    /// no group.
+    [[nodiscard]] ShapeLook Read(const ReferenceHost::DrawingObject& object);
+
+    /// Styles may have changed: everything is read anew from now on.
+    void Forget();
+
+private:
+    struct GraphicLook
+    {
+        InsideLook inside;
+        LineLook line;
+    };
+
+    // By styles, which nobody may have let go since they were read.
+    std::unordered_map<const Styles::Style*, GraphicLook> graphics;
+    std::unordered_map<const Styles::Style*, ParagraphLook> paragraphs;
+    std::unordered_map<const Styles::Style*, RunLook> runs;
+};
 
 } // namespace Workbench
