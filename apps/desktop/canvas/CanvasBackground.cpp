@@ -12,6 +12,12 @@ void CanvasBackground::Forget()
     pixmap = QPixmap();
 }
 
+void CanvasBackground::Forget(const QRegion& part)
+{
+    if (!pixmap.isNull())
+        missing += part & QRect(QPoint(), pixmap.deviceIndependentSize().toSize());
+}
+
 bool CanvasBackground::MoveBy(QPointF pixels)
 {
     const QPointF onScreen = pixels * pixmap.devicePixelRatio();

@@ -19,6 +19,9 @@ public:
     /// Everything is painted anew.
     void Forget();
 
+    /// This part is painted anew, in pixels of the widget.
+    void Forget(const QRegion& part);
+
     /// Moves what is painted; false, and everything is painted anew, where it would no longer lie on whole
     /// pixels.
     bool MoveBy(QPointF pixels);

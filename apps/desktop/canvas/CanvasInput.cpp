@@ -29,6 +29,14 @@ constexpr double kKeyStep = 40;
 constexpr double kNotch = 120;
 constexpr double kNotchStep = 60;
 
+/// Tells whether an object is in a group, however deep.
+bool IsWithin(const ReferenceHost::DrawingObject* object, const ReferenceHost::DrawingObject* group)
+{
+    while (object != nullptr && object != group)
+        object = object->GetGroup();
+    return object != nullptr;
+}
+
 } // namespace
 
 void CanvasWidget::Choose(const std::vector<ReferenceHost::DrawingObject*>& objects)
@@ -37,7 +45,9 @@ void CanvasWidget::Choose(const std::vector<ReferenceHost::DrawingObject*>& obje
     if (chosen == state->selected)
         return;
     state->selected = chosen;
-    update();
+    if (objects.size() == 1)
+        state->current = objects.front();
+    UpdateFrames();
     emit selectionChanged(objects);
 }
 
@@ -103,6 +113,21 @@ void CanvasWidget::mouseReleaseEvent(QMouseEvent* event)
         EndBand();
 }
 
+void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    ReferenceHost::DrawingObject* outermost = nullptr;
+    if (event->button() == Qt::LeftButton && state->page != nullptr && !state->isSpaceHeld)
+        outermost =
+            state->page->FindAt(state->view.ToPage(event->position()), kTolerance / state->view.GetScale());
+    if (outermost == nullptr || outermost->GetGroup() == nullptr)
+        return mousePressEvent(event);
+    while (outermost->GetGroup() != nullptr)
+        outermost = outermost->GetGroup();
+    std::vector<ReferenceHost::DrawingObject*> objects = state->page->GetObjects();
+    std::erase_if(objects, [&](auto* object) { return !IsWithin(object, outermost); });
+    Choose(objects);
+}
+
 void CanvasWidget::EndBand()
 {
     const QRectF band = state->view.ToPage(state->band);
@@ -140,6 +165,8 @@ void CanvasWidget::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::SelectAll))
         return state->page == nullptr ? void() : Choose(state->page->GetObjects());
+    if (ZoomByKey(*event) || LeaveByKey(*event))
+        return;
     switch (event->key())
     {
     case Qt::Key_Space:
@@ -161,6 +188,51 @@ void CanvasWidget::keyPressEvent(QKeyEvent* event)
     default:
         QWidget::keyPressEvent(event);
     }
+}
+
+bool CanvasWidget::ZoomByKey(const QKeyEvent& event)
+{
+    if (!event.modifiers().testFlag(Qt::ControlModifier))
+        return false;
+    // Plus needs Shift on some keyboards and shares its key with the equals sign on others.
+    if (event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal)
+        ZoomBy(kZoomStep);
+    else if (event.key() == Qt::Key_Minus)
+        ZoomBy(1 / kZoomStep);
+    else if (event.key() == Qt::Key_0)
+        ZoomToPage();
+    else
+        return false;
+    return true;
+}
+
+bool CanvasWidget::LeaveByKey(const QKeyEvent& event)
+{
+    const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    if (event.key() != Qt::Key_F6 && !(isTab && event.modifiers().testFlag(Qt::ControlModifier)))
+        return false;
+    QWidget::focusNextPrevChild(!event.modifiers().testFlag(Qt::ShiftModifier));
+    return true;
+}
+
+bool CanvasWidget::focusNextPrevChild(bool isNext)
+{
+    ReferenceHost::DrawingObject* const next =
+        state->page == nullptr ? nullptr : state->page->FindNext(state->current, !isNext);
+    if (next == nullptr)
+        return QWidget::focusNextPrevChild(isNext);
+    Choose({next});
+    if (!state->frames.empty())
+        BringIntoView(state->frames.front());
+    return true;
+}
+
+void CanvasWidget::BringIntoView(const QRectF& onPage)
+{
+    const QRectF inView = state->view.ToView(onPage);
+    if (QRectF(rect()).contains(inView.center()))
+        return;
+    MoveBy((QRectF(rect()).center() - inView.center()).toPoint());
 }
 
 void CanvasWidget::keyReleaseEvent(QKeyEvent* event)

@@ -1,11 +1,18 @@
 #include "apps/desktop/canvas/CanvasPage.h"
 
+#include "apps/desktop/painting/PaintInside.h"
 #include "apps/desktop/painting/PaintShape.h"
+#include "apps/desktop/painting/ShapePaths.h"
 #include "reference_host/document/DrawingObject.h"
 
+#include <QPainterPath>
+
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <map>
 #include <ranges>
+#include <utility>
 
 namespace Desktop
 {
@@ -29,15 +36,38 @@ DrawingObject* FindSelected(DrawingObject* object, const ObjectSet& selected)
 } // namespace
 
 CanvasPage::CanvasPage(const ReferenceHost::PagePicture& page, PaintMaterials& paintMaterials)
-    : size(page.width, page.height), materials(&paintMaterials)
+    : size(page.width, page.height), background(&page.background), materials(&paintMaterials)
 {
     shapes.reserve(page.shapes.size());
     for (const ReferenceHost::ShapePicture& shape : page.shapes)
-        shapes.emplace_back(shape);
+        shapes.emplace_back(shape, reader);
+}
+
+void CanvasPage::PaintBackground(QPainter& painter)
+{
+    using Kind = ReferenceHost::PageBackground::Kind;
+    using Inside = Workbench::InsideLook::Kind;
+    constexpr std::array<std::pair<Kind, Inside>, 4> kKinds{{{Kind::Solid, Inside::Solid},
+                                                             {Kind::Gradient, Inside::Gradient},
+                                                             {Kind::Hatch, Inside::Hatch},
+                                                             {Kind::Bitmap, Inside::Bitmap}}};
+    Workbench::InsideLook look;
+    for (const auto& [kind, inside] : kKinds)
+    {
+        if (kind == background->kind)
+            look.kind = inside;
+    }
+    look.colour = background->colour;
+    look.transparency = background->transparency;
+    look.definition = background->definition;
+    QPainterPath path;
+    path.addRect(RectangleOf(background->box));
+    PaintInside(painter, path, RectangleOf(background->box), look, background->details, *materials);
 }
 
 void CanvasPage::Paint(QPainter& painter, const QRectF& visible)
 {
+    PaintBackground(painter);
     for (CanvasShape& shape : shapes)
     {
         if (shape.GetPaintedBounds().intersects(visible))
@@ -95,10 +125,31 @@ std::vector<QRectF> CanvasPage::BoundsOf(const ObjectSet& selected) const
     return rectangles;
 }
 
-void CanvasPage::ForgetLooks()
+DrawingObject* CanvasPage::FindNext(const DrawingObject* from, bool isBackwards) const
 {
+    if (shapes.empty())
+        return nullptr;
+    const auto place = std::ranges::find(shapes, from,
+                                         [](const CanvasShape& shape) -> const DrawingObject*
+                                         { return shape.GetPicture().object; });
+    const std::size_t count = shapes.size();
+    std::size_t next = isBackwards ? count - 1 : 0;
+    if (place != shapes.end())
+        next = (static_cast<std::size_t>(place - shapes.begin()) + (isBackwards ? count - 1 : 1)) % count;
+    return shapes[next].GetPicture().object;
+}
+
+std::vector<QRectF> CanvasPage::RefreshLooks()
+{
+    std::vector<QRectF> changed;
+    reader.Forget();
     for (CanvasShape& shape : shapes)
-        shape.ForgetLook();
+    {
+        const QRectF before = shape.GetPaintedBounds();
+        if (shape.RefreshLook())
+            changed.push_back(before | shape.GetPaintedBounds());
+    }
+    return changed;
 }
 
 } // namespace Desktop

@@ -23,10 +23,12 @@ class CanvasPage
 {
 public:
     CanvasPage(const ReferenceHost::PagePicture& page, PaintMaterials& paintMaterials);
+    CanvasPage(const CanvasPage&) = delete;
+    CanvasPage& operator=(const CanvasPage&) = delete;
 
     [[nodiscard]] QSizeF GetSize() const noexcept { return size; }
 
-    /// Paints the shapes that may be seen within `visible`, in order.
+    /// Paints the background of the page and the shapes that may be seen within `visible`, in order.
     void Paint(QPainter& painter, const QRectF& visible);
 
     /// The topmost object there, give or take `tolerance`; null for none.
@@ -42,11 +44,21 @@ public:
     /// its members, which have one rectangle together.
     [[nodiscard]] std::vector<QRectF> BoundsOf(const ObjectSet& selected) const;
 
-    void ForgetLooks();
+    /// The object behind or before another one in document order, the first or the last for null; null
+    /// without objects.
+    [[nodiscard]] ReferenceHost::DrawingObject* FindNext(const ReferenceHost::DrawingObject* from,
+                                                         bool isBackwards) const;
+
+    /// Reads styles anew and returns where shapes were and are painted that look different now.
+    [[nodiscard]] std::vector<QRectF> RefreshLooks();
 
 private:
+    void PaintBackground(QPainter& painter);
+
     QSizeF size;
+    const ReferenceHost::PageBackground* background;
     PaintMaterials* materials;
+    Workbench::LookReader reader; ///< The shapes read by it.
     std::vector<CanvasShape> shapes;
 };
 

@@ -30,12 +30,13 @@ double ReachOf(const Workbench::LineLook& line, const ReferenceHost::ShapeDetail
 
 } // namespace
 
-CanvasShape::CanvasShape(const ReferenceHost::ShapePicture& shapePicture)
-    : picture(&shapePicture), toPage(TransformOf(shapePicture.toPage))
+CanvasShape::CanvasShape(const ReferenceHost::ShapePicture& shapePicture, Workbench::LookReader& lookReader)
+    : picture(&shapePicture), reader(&lookReader), toPage(TransformOf(shapePicture.toPage))
 {
     for (const ReferenceHost::ShapePart& part : picture->parts)
     {
-        Part& added = parts.emplace_back(Part{PathOf(part.contour), part.isFilled, part.isStroked});
+        Part& added =
+            parts.emplace_back(Part{PathOf(part.contour), part.isFilled, part.isStroked, part.mayHaveArrows});
         // A line along an axis has no area, and would not be united with others.
         const QRectF extent = toPage.map(added.path).boundingRect();
         constexpr double kThinnest = 0.5;
@@ -47,25 +48,52 @@ CanvasShape::CanvasShape(const ReferenceHost::ShapePicture& shapePicture)
 
 const Workbench::ShapeLook& CanvasShape::GetLook()
 {
-    if (isLookKnown)
-        return look;
-    Workbench::ShapeLook now = Workbench::LookOf(*picture->object);
+    if (!isLookKnown)
+        TakeLook(reader->Read(*picture->object));
+    return look;
+}
+
+bool CanvasShape::RefreshLook()
+{
+    if (!isLookKnown)
+        return false;
+    Workbench::ShapeLook now = reader->Read(*picture->object);
+    if (now == look)
+        return false;
+    TakeLook(std::move(now));
+    return true;
+}
+
+void CanvasShape::TakeLook(Workbench::ShapeLook now)
+{
     if (now.paragraphs != look.paragraphs || now.runs != look.runs)
         text.reset();
     look = std::move(now);
     isLookKnown = true;
-    const double reach = ReachOf(look.line, picture->details);
-    paintedBounds = bounds.adjusted(-reach, -reach, reach, reach);
-    if (!look.paragraphs.empty())
+    paintedBounds = PaintedOutline();
+    if (text != nullptr)
+        paintedBounds |= toPage.mapRect(text->GetBounds());
+    else if (!look.paragraphs.empty())
         paintedBounds |= EstimateText();
-    return look;
+}
+
+QRectF CanvasShape::PaintedOutline() const
+{
+    const double reach = ReachOf(look.line, picture->details);
+    const QRectF outline = bounds.adjusted(-reach, -reach, reach, reach);
+    const auto& shadow = picture->details.shadow;
+    return shadow ? outline | outline.translated(shadow->offset.x, shadow->offset.y) : outline;
 }
 
 const ShapeText* CanvasShape::GetText()
 {
     const Workbench::ShapeLook& current = GetLook();
     if (text == nullptr && !current.paragraphs.empty())
+    {
         text = std::make_unique<ShapeText>(*picture, current);
+        // Now that it is known where it is, shapes beside it need not be painted with it.
+        paintedBounds = PaintedOutline() | toPage.mapRect(text->GetBounds());
+    }
     return text.get();
 }
 
@@ -93,6 +121,8 @@ QRectF CanvasShape::EstimateText() const
         const double breaks = static_cast<double>(std::ranges::count(picture->runTexts[run].Wide(), L'\n'));
         height += (1 + breaks + length / room) * size * kHighestLine;
     }
+    for (const ReferenceHost::ListLabel& label : picture->labels)
+        width = std::max(width, label.indent);
     for (const Workbench::ParagraphLook& paragraph : look.paragraphs)
     {
         width = std::max(width, static_cast<double>(std::abs(paragraph.leftIndent)));
@@ -100,7 +130,8 @@ QRectF CanvasShape::EstimateText() const
     }
     // Wherever it stands, it begins at a side of the area or in the middle.
     const double across = picture->details.isWrapped && !picture->isLine ? 0 : width;
-    return toPage.mapRect(area.adjusted(-across, -height, across, height));
+    const double turned = picture->textAngle == 0 ? 0 : width;
+    return toPage.mapRect(area.adjusted(-across, -height - turned, across, height + turned));
 }
 
 bool CanvasShape::IsAt(QPointF onPage, double tolerance)
@@ -118,8 +149,8 @@ bool CanvasShape::IsAt(QPointF onPage, double tolerance)
         return true;
     if (!bounds.adjusted(-reach, -reach, reach, reach).contains(onPage))
         return false;
-    const bool hasInside =
-        current.inside.kind != Workbench::InsideLook::Kind::None || picture->image != nullptr;
+    const bool hasInside = current.inside.kind != Workbench::InsideLook::Kind::None ||
+                           picture->image != nullptr || !picture->placeholder.empty();
     QPainterPathStroker stroker;
     stroker.setWidth(2 * reach);
     return std::ranges::any_of(parts,

@@ -16,7 +16,7 @@
 namespace Desktop
 {
 
-/// One shape on the canvas, with what painting it again and again needs. Borrows its picture.
+/// One shape on the canvas, with what painting it again and again needs. Borrows its picture and its reader.
 class CanvasShape
 {
 public:
@@ -26,9 +26,10 @@ public:
         QPainterPath path;
         bool isFilled = false;
         bool isStroked = false;
+        bool mayHaveArrows = true;
     };
 
-    explicit CanvasShape(const ReferenceHost::ShapePicture& shapePicture);
+    CanvasShape(const ReferenceHost::ShapePicture& shapePicture, Workbench::LookReader& lookReader);
 
     [[nodiscard]] const ReferenceHost::ShapePicture& GetPicture() const noexcept { return *picture; }
 
@@ -45,21 +46,25 @@ public:
     /// The text set as the look says; null without text.
     [[nodiscard]] const ShapeText* GetText();
 
-    /// Where something may be painted, on the page: outline, width of the line, arrows, and text by an
-    /// estimate, so that text which is not seen need not be set.
+    /// Where something may be painted, on the page: outline, width of the line, arrows, shadow, and text, by
+    /// an estimate until it is set, so that text which is not seen need not be.
     [[nodiscard]] const QRectF& GetPaintedBounds();
 
-    /// Styles are read again when they are needed next. The text stays set where they turn out the same.
-    void ForgetLook() { isLookKnown = false; }
+    /// Reads the styles again if they were read before, and tells whether they are different now. The text
+    /// stays set where it looks the same.
+    [[nodiscard]] bool RefreshLook();
 
     /// Tells whether a person who points there, give or take `tolerance`, means this shape: at its line, or
     /// inside where there is something to be seen.
     [[nodiscard]] bool IsAt(QPointF onPage, double tolerance);
 
 private:
+    void TakeLook(Workbench::ShapeLook now);
+    [[nodiscard]] QRectF PaintedOutline() const;
     [[nodiscard]] QRectF EstimateText() const;
 
     const ReferenceHost::ShapePicture* picture;
+    Workbench::LookReader* reader;
     QTransform toPage;
     std::vector<Part> parts;
     QRectF bounds;

@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace Desktop
 {
@@ -41,7 +42,11 @@ struct CanvasWidget::State
     CanvasView view;
     bool isWholePage = true; ///< The size follows that of the widget.
     CanvasBackground background;
-    ObjectSet selected; ///< Groups may be among them.
+    ObjectSet selected;         ///< Groups may be among them.
+    std::vector<QRectF> frames; ///< Around what is selected, on the page.
+
+    /// The object that was selected last by itself; null without one. The next one by Tab is behind it.
+    ReferenceHost::DrawingObject* current = nullptr;
 
     // What a person is doing
     std::optional<QPointF> moving;    ///< Where the pointer was that moves the page.

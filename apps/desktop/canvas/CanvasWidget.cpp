@@ -2,6 +2,7 @@
 
 #include "apps/desktop/canvas/CanvasWidget.h"
 
+#include "apps/desktop/canvas/CanvasAccess.h"
 #include "apps/desktop/canvas/CanvasState.h"
 #include "apps/desktop/painting/PaintHandles.h"
 #include "apps/workbench/Session.h"
@@ -9,8 +10,11 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QRegion>
+#include <QStringList>
 
 #include <cstddef>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -22,6 +26,17 @@ namespace
 /// With more objects than this, one frame stands for all handles: nobody could tell them apart.
 constexpr std::size_t kMostHandles = 500;
 
+/// Tells whether an object or one of its groups is selected.
+bool IsSelected(ReferenceHost::DrawingObject* object, const ObjectSet& selected)
+{
+    for (; object != nullptr; object = object->GetGroup())
+    {
+        if (selected.contains(object))
+            return true;
+    }
+    return false;
+}
+
 } // namespace
 
 CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent), state(std::make_unique<State>())
@@ -29,6 +44,7 @@ CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent), state(std::make_u
     setMinimumSize(240, 180);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    InstallCanvasAccess();
 }
 
 CanvasWidget::~CanvasWidget() = default;
@@ -54,14 +70,69 @@ void CanvasWidget::ShowPicture(ReferenceHost::DrawingPicture picture)
 void CanvasWidget::SetSelectedObjects(const std::vector<ReferenceHost::DrawingObject*>& objects)
 {
     state->selected = ObjectSet(objects.begin(), objects.end());
+    state->current = objects.size() == 1 ? objects.front() : nullptr;
+    UpdateFrames();
+}
+
+void CanvasWidget::UpdateFrames()
+{
+    state->frames.clear();
+    if (state->page != nullptr)
+        state->frames = state->page->BoundsOf(state->selected);
+    if (state->frames.size() > kMostHandles)
+    {
+        QRectF all;
+        for (const QRectF& each : state->frames)
+            all |= each;
+        state->frames = {all};
+    }
     update();
+    TellSelection(*this);
 }
 
 void CanvasWidget::RefreshStyles()
 {
-    if (state->page != nullptr)
-        state->page->ForgetLooks();
-    Repaint();
+    if (state->page == nullptr)
+        return;
+    // Beyond that one rectangle is quicker than many.
+    constexpr std::size_t kMostParts = 64;
+    const std::vector<QRectF> changed = state->page->RefreshLooks();
+    QRegion parts;
+    QRectF all;
+    for (const QRectF& each : changed)
+    {
+        const QRectF inView = state->view.ToView(each).adjusted(-2, -2, 2, 2);
+        all |= inView;
+        if (changed.size() <= kMostParts)
+            parts += inView.toAlignedRect();
+    }
+    if (changed.size() > kMostParts)
+        parts = (all & QRectF(rect())).toAlignedRect();
+    state->background.Forget(parts);
+    update();
+}
+
+QString CanvasWidget::DescribeSelection() const
+{
+    constexpr int kMostNames = 20;
+    QStringList names;
+    if (state->page == nullptr)
+        return {};
+    for (ReferenceHost::DrawingObject* const object : state->page->GetObjects())
+    {
+        if (!IsSelected(object, state->selected))
+            continue;
+        if (names.size() == kMostNames)
+        {
+            names << QString(QChar(0x2026));
+            break;
+        }
+        const QString name = QString::fromStdWString(object->GetName().Wide());
+        names << (name.isEmpty() ? QString::fromStdWString(std::wstring(object->GetKind())) +
+                                       QLatin1Char(' ') + QString::fromStdWString(object->GetId().Wide())
+                                 : name);
+    }
+    return names.join(QLatin1String(", "));
 }
 
 int CanvasWidget::PageCount() const
@@ -85,6 +156,7 @@ void CanvasWidget::SetPage(int page)
     if (state->isWholePage)
         state->view.Fit(state->page->GetSize(), size());
     Repaint();
+    UpdateFrames();
 }
 
 void CanvasWidget::ZoomBy(double factor)
@@ -134,15 +206,7 @@ void CanvasWidget::paintEvent(QPaintEvent* /*event*/)
         state->background.Update(size(), devicePixelRatioF(), state->page.get(), state->view, palette()));
     if (state->page == nullptr)
         return;
-    std::vector<QRectF> selected = state->page->BoundsOf(state->selected);
-    if (selected.size() > kMostHandles)
-    {
-        QRectF all;
-        for (const QRectF& each : selected)
-            all |= each;
-        selected = {all};
-    }
-    for (const QRectF& each : selected)
+    for (const QRectF& each : state->frames)
         PaintHandles(painter, state->view.ToView(each), palette());
     if (!state->band.isEmpty())
         PaintRubberBand(painter, state->band, palette());

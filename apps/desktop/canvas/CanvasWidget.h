@@ -2,6 +2,7 @@
 
 #include "reference_host/document/DrawingObject.h"
 
+#include <QString>
 #include <QWidget>
 
 #include <memory>
@@ -25,9 +26,15 @@ namespace Desktop
 
 /// Shows one page of a session's drawing, and lets a person select objects on it.
 ///
-/// A click selects the topmost object and one with Shift adds or takes away; dragging over empty space
-/// selects what lies wholly in the rectangle. The wheel, the middle button and dragging with the space bar
-/// move the page, the wheel with Ctrl makes it larger and smaller.
+/// A click selects the topmost object, also one in a group, and one with Shift adds or takes away; a double
+/// click selects the whole outermost group; dragging over empty space selects what lies wholly in the
+/// rectangle. The wheel, the middle button and dragging with the space bar move the page, the wheel with Ctrl
+/// makes it larger and smaller.
+///
+/// With the keyboard Tab and Shift+Tab go from object to object, F6 or Ctrl+Tab to the next widget; arrows
+/// move the page, Page Up and Page Down turn it, Ctrl with plus, minus and zero changes its size.
+///
+/// Screen readers are told what is selected as the value of the widget.
 ///
 /// Reads the drawing and never changes it.
 class CanvasWidget : public QWidget
@@ -51,7 +58,11 @@ public:
     /// not. Borrowed until the next call or that of ShowDrawing().
     void SetSelectedObjects(const std::vector<ReferenceHost::DrawingObject*>& objects);
 
-    /// Draws anew with the styles as they are now; for after each edit, undo and redo.
+    /// What is selected, by the names of the objects, or by kind and id where they have none. Long lists are
+    /// cut short.
+    [[nodiscard]] QString DescribeSelection() const;
+
+    /// Draws anew what looks different with the styles as they are now; for after each edit, undo and redo.
     void RefreshStyles();
 
     /// How many pages the drawing has; none without a drawing.
@@ -83,10 +94,12 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    bool focusNextPrevChild(bool isNext) override;
 
 private:
     struct State;
@@ -96,6 +109,10 @@ private:
     void ZoomAt(QPointF fixed, double factor);
     void ClickAt(QPointF place, bool isAdding);
     void EndBand();
+    bool ZoomByKey(const QKeyEvent& event);
+    bool LeaveByKey(const QKeyEvent& event);
+    void BringIntoView(const QRectF& onPage);
+    void UpdateFrames();
     void SetSpace(bool isHeld);
 
     /// Selects what a person chose, and tells of it when it is something else than before.

@@ -4,6 +4,7 @@
 
 #include "apps/desktop/painting/PaintGradient.h"
 #include "apps/desktop/painting/PaintHatch.h"
+#include "apps/desktop/painting/PaintVeiled.h"
 
 #include <QBrush>
 
@@ -35,8 +36,10 @@ void PaintBitmap(QPainter& painter, const QPainterPath& path, const QRectF& box,
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (details.bitmapFit == Fit::Stretch)
         return painter.drawImage(box, bitmap);
-    QRectF tile({}, SizeOf(bitmap, details));
-    tile.moveCenter(box.center());
+    const QSizeF size = SizeOf(bitmap, details);
+    const QRectF tile(QPointF(box.left() + details.bitmapAnchor.x * (box.width() - size.width()),
+                              box.top() + details.bitmapAnchor.y * (box.height() - size.height())),
+                      size);
     if (details.bitmapFit == Fit::Once)
         return painter.drawImage(tile, bitmap);
     QBrush brush(bitmap);
@@ -46,15 +49,12 @@ void PaintBitmap(QPainter& painter, const QPainterPath& path, const QRectF& box,
     painter.fillPath(path, brush);
 }
 
-} // namespace
-
-void PaintInside(QPainter& painter, const QPainterPath& path, const QRectF& box,
+/// Fills a path without regard to what makes it see-through from place to place.
+void PaintOpaque(QPainter& painter, const QPainterPath& path, const QRectF& box,
                  const Workbench::InsideLook& look, const ReferenceHost::ShapeDetails& details,
                  PaintMaterials& materials)
 {
     using Kind = Workbench::InsideLook::Kind;
-    if (look.kind == Kind::None)
-        return;
     const auto* const gradient =
         look.kind == Kind::Gradient ? materials.FindGradient(look.definition) : nullptr;
     const auto* const hatch = look.kind == Kind::Hatch ? materials.FindHatch(look.definition) : nullptr;
@@ -67,12 +67,27 @@ void PaintInside(QPainter& painter, const QPainterPath& path, const QRectF& box,
     painter.save();
     painter.setOpacity(painter.opacity() * (100 - std::clamp(look.transparency, 0, 100)) / 100.0);
     if (gradient != nullptr)
-        PaintGradient(painter, path, box, *gradient);
+        PaintGradient(painter, path, box, *gradient, details.gradientSteps);
     else if (hatch != nullptr)
         PaintHatch(painter, path, box, *hatch);
     else
         PaintBitmap(painter, path, box, bitmap, details);
     painter.restore();
+}
+
+} // namespace
+
+void PaintInside(QPainter& painter, const QPainterPath& path, const QRectF& box,
+                 const Workbench::InsideLook& look, const ReferenceHost::ShapeDetails& details,
+                 PaintMaterials& materials)
+{
+    if (look.kind == Workbench::InsideLook::Kind::None)
+        return;
+    const auto* const opacity = materials.FindOpacity(details.opacity);
+    if (opacity == nullptr)
+        return PaintOpaque(painter, path, box, look, details, materials);
+    PaintVeiled(painter, path, box, *opacity,
+                [&](QPainter& layer) { PaintOpaque(layer, path, box, look, details, materials); });
 }
 
 } // namespace Desktop

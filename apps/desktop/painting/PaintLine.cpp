@@ -2,6 +2,7 @@
 
 #include "apps/desktop/painting/PaintArrow.h"
 
+#include <QPainterPathStroker>
 #include <QPen>
 #include <QVector>
 
@@ -86,9 +87,16 @@ void PaintLine(QPainter& painter, const QPainterPath& path, LineEnds ends, const
     }
     const ArrowedLine arrowed =
         ends == LineEnds::Arrows ? AddArrows(path, look, details, materials) : ArrowedLine{path, {}};
-    painter.strokePath(arrowed.line, pen);
-    if (!arrowed.arrows.isEmpty())
-        painter.fillPath(arrowed.arrows, colour);
+    if (arrowed.arrows.isEmpty())
+        return painter.strokePath(arrowed.line, pen);
+    if (look.transparency == 0)
+    {
+        painter.strokePath(arrowed.line, pen);
+        return painter.fillPath(arrowed.arrows, colour);
+    }
+    // Where both overlap, what lets through must not be painted twice.
+    QPainterPathStroker stroker(pen);
+    painter.fillPath(stroker.createStroke(arrowed.line).united(arrowed.arrows), colour);
 }
 
 } // namespace Desktop

@@ -25,6 +25,11 @@ const ReferenceHost::GradientDefinition* PaintMaterials::FindGradient(const OvxS
     return FindIn(definitions->gradients, name);
 }
 
+const ReferenceHost::GradientDefinition* PaintMaterials::FindOpacity(const OvxStringT& name) const
+{
+    return FindIn(definitions->opacities, name);
+}
+
 const ReferenceHost::HatchDefinition* PaintMaterials::FindHatch(const OvxStringT& name) const
 {
     return FindIn(definitions->hatches, name);

@@ -24,6 +24,7 @@ public:
 
     /// Each is null for an unknown name.
     [[nodiscard]] const ReferenceHost::GradientDefinition* FindGradient(const OvxStringT& name) const;
+    [[nodiscard]] const ReferenceHost::GradientDefinition* FindOpacity(const OvxStringT& name) const;
     [[nodiscard]] const ReferenceHost::HatchDefinition* FindHatch(const OvxStringT& name) const;
     [[nodiscard]] const ReferenceHost::DashDefinition* FindDash(const OvxStringT& name) const;
     [[nodiscard]] const ReferenceHost::MarkerDefinition* FindMarker(const OvxStringT& name) const;

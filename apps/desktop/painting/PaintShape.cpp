@@ -2,6 +2,7 @@
 
 #include "apps/desktop/painting/PaintInside.h"
 #include "apps/desktop/painting/PaintLine.h"
+#include "apps/desktop/painting/PaintPlaceholder.h"
 #include "apps/desktop/painting/ShapePaths.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ namespace
 {
 
 /// Text that is lower than this many pixels cannot be read and takes the most time of all.
-constexpr double kLowestText = 2;
+constexpr double kLowestText = 3;
 
 bool IsTextVisible(const QPainter& painter, const Workbench::ShapeLook& look)
 {
@@ -23,12 +24,51 @@ bool IsTextVisible(const QPainter& painter, const Workbench::ShapeLook& look)
                                { return run.size * kHundredthMmInATenthPoint * scale >= kLowestText; });
 }
 
+/// What the shape throws on what is behind it: its inside, and its line where it is not filled.
+void PaintShadow(QPainter& painter, CanvasShape& shape, const ReferenceHost::ShapeDetails::Shadow& shadow,
+                 PaintMaterials& materials)
+{
+    const ReferenceHost::ShapePicture& picture = shape.GetPicture();
+    Workbench::LineLook line = shape.GetLook().line;
+    line.colour = shadow.colour;
+    line.transparency = shadow.transparency;
+    const bool hasInside =
+        shape.GetLook().inside.kind != Workbench::InsideLook::Kind::None || picture.image != nullptr;
+    painter.save();
+    painter.translate(shadow.offset.x, shadow.offset.y);
+    painter.setTransform(shape.GetTransform(), true);
+    for (const CanvasShape::Part& part : shape.GetParts())
+    {
+        if (part.isFilled && hasInside)
+            painter.fillPath(part.path, ColourOf(shadow.colour, shadow.transparency));
+        else if (part.isStroked)
+            PaintLine(painter, part.path, LineEnds::Plain, line, picture.details, materials);
+    }
+    painter.restore();
+}
+
+/// The picture of a shape, or what stands for what cannot be shown.
+void PaintContent(QPainter& painter, const ReferenceHost::ShapePicture& picture, PaintMaterials& materials)
+{
+    const QRectF box = RectangleOf(picture.box);
+    const QImage& image = materials.Decode(picture.image);
+    if (!image.isNull())
+    {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(box, image);
+    }
+    else if (!picture.placeholder.empty() && !box.isEmpty())
+        PaintPlaceholder(painter, box, QString::fromStdWString(picture.placeholder.Wide()));
+}
+
 } // namespace
 
 void PaintShape(QPainter& painter, CanvasShape& shape, PaintMaterials& materials)
 {
     const ReferenceHost::ShapePicture& picture = shape.GetPicture();
     const Workbench::ShapeLook& look = shape.GetLook();
+    if (picture.details.shadow)
+        PaintShadow(painter, shape, *picture.details.shadow, materials);
     painter.save();
     painter.setTransform(shape.GetTransform(), true);
     const QRectF box = RectangleOf(picture.box);
@@ -37,14 +77,10 @@ void PaintShape(QPainter& painter, CanvasShape& shape, PaintMaterials& materials
         if (part.isFilled)
             PaintInside(painter, part.path, box, look.inside, picture.details, materials);
     }
-    if (const QImage& image = materials.Decode(picture.image); !image.isNull())
-    {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(box, image);
-    }
-    const LineEnds ends = picture.isLine ? LineEnds::Arrows : LineEnds::Plain;
+    PaintContent(painter, picture, materials);
     for (const CanvasShape::Part& part : shape.GetParts())
     {
+        const LineEnds ends = picture.isLine && part.mayHaveArrows ? LineEnds::Arrows : LineEnds::Plain;
         if (part.isStroked)
             PaintLine(painter, part.path, ends, look.line, picture.details, materials);
     }

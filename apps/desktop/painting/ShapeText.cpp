@@ -25,6 +25,9 @@ using Details = ReferenceHost::ShapeDetails;
 
 constexpr double kHundredthMmInATenthPoint = 2540.0 / 720.0;
 
+/// How far apart tab stops are where nothing says.
+constexpr double kTabDistance = 1250;
+
 /// A width that no line needs.
 constexpr double kUnlimited = 1e7;
 
@@ -98,12 +101,49 @@ void ShapeText::AddParagraph(const ReferenceHost::ShapePicture& shape, const Wor
     block.layout->setText(text);
     block.layout->setFormats(formats);
     block.layout->setCacheEnabled(true);
+    if (paragraph < shape.labels.size())
+        block.list = shape.labels[paragraph];
+    if (!block.list.text.empty())
+        AddLabel(block);
+}
+
+void ShapeText::AddLabel(Block& block)
+{
+    const QList<QTextLayout::FormatRange> formats = block.layout->formats();
+    QTextLayout::FormatRange range;
+    range.start = 0;
+    const QString text = QString::fromStdWString(block.list.text.Wide());
+    range.length = static_cast<int>(text.size());
+    QFont font = block.layout->font();
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * block.list.sizeShare))));
+    font.setUnderline(false);
+    font.setStrikeOut(false);
+    range.format.setFont(font);
+    if (!formats.isEmpty())
+        range.format.setForeground(formats.front().format.foreground());
+    block.label = std::make_unique<QTextLayout>(text, font);
+    block.label->setFormats({range});
+    block.label->beginLayout();
+    block.label->createLine().setLineWidth(kUnlimited);
+    block.label->endLayout();
+}
+
+/// The label begins its room before the first line. One that is smaller than the text stands in the middle of
+/// the line's height, as bullets do.
+void ShapeText::PlaceLabel(Block& block)
+{
+    if (block.label == nullptr || block.layout->lineCount() == 0)
+        return;
+    const QTextLine line = block.layout->lineAt(0);
+    const QTextLine label = block.label->lineAt(0);
+    block.labelPlace = {line.x() - block.list.room, line.y() + (line.height() - label.height()) / 2};
 }
 
 void ShapeText::BreakLines(const Block& block, double width, bool isWrapped) const
 {
     const Workbench::ParagraphLook& look = *block.look;
     QTextOption option;
+    option.setTabStopDistance(kTabDistance);
     option.setWrapMode(isWrapped ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap);
     if (look.align == Align::Justify && isWrapped)
         option.setAlignment(Qt::AlignJustify);
@@ -112,7 +152,9 @@ void ShapeText::BreakLines(const Block& block, double width, bool isWrapped) con
     double top = 0;
     for (QTextLine line = block.layout->createLine(); line.isValid(); line = block.layout->createLine())
     {
-        const double indent = look.leftIndent + (line.lineNumber() == 0 ? look.firstLineIndent : 0);
+        // In a list the label takes the place of an indent.
+        const bool isIndented = line.lineNumber() == 0 && block.list.indent == 0;
+        const double indent = look.leftIndent + block.list.indent + (isIndented ? look.firstLineIndent : 0);
         line.setLineWidth(isWrapped ? std::max(1.0, width - indent - look.rightIndent) : kUnlimited);
         line.setPosition({indent, top});
         top += line.height() * std::max(1, look.lineSpacing) / 100;
@@ -152,17 +194,12 @@ double ShapeText::WidestLine() const
     return widest;
 }
 
-void ShapeText::Place(const ReferenceHost::ShapePicture& shape)
+double ShapeText::StackBlocks(double width, bool isWrapped)
 {
-    const Details& details = shape.details;
-    const QRectF whole = RectangleOf(shape.textArea);
-    const QRectF inner = whole.adjusted(details.paddingLeft, details.paddingTop, -details.paddingRight,
-                                        -details.paddingBottom);
-    const bool isWrapped = details.isWrapped && !shape.isLine && inner.width() > 0;
     for (std::size_t index = 0; index < blocks.size(); ++index)
     {
         Block& block = blocks[index];
-        BreakLines(block, inner.width(), isWrapped);
+        BreakLines(block, width, isWrapped);
         block.top = height + (index == 0 ? 0 : block.look->spaceBefore);
         double lines = 0;
         if (const int count = block.layout->lineCount(); count > 0)
@@ -172,12 +209,29 @@ void ShapeText::Place(const ReferenceHost::ShapePicture& shape)
         }
         height = block.top + lines + (index + 1 == blocks.size() ? 0 : block.look->spaceAfter);
     }
-    const double widest = WidestLine();
+    return WidestLine();
+}
+
+void ShapeText::Place(const ReferenceHost::ShapePicture& shape)
+{
+    const Details& details = shape.details;
+    const QRectF whole = RectangleOf(shape.textArea);
+    turn.translate(whole.center().x(), whole.center().y());
+    turn.rotate(shape.textAngle);
+    turn.translate(-whole.center().x(), -whole.center().y());
+    const QRectF inner = shape.isLine ? QRectF(whole.center(), QSizeF())
+                                      : whole.adjusted(details.paddingLeft, details.paddingTop,
+                                                       -details.paddingRight, -details.paddingBottom);
+    const bool isWrapped = details.isWrapped && !shape.isLine && inner.width() > 0;
+    const double widest = StackBlocks(inner.width(), isWrapped);
     const bool isBlock =
         shape.isLine || (!isWrapped && details.horizontal != Details::HorizontalAlign::AsParagraph);
     const double width = isBlock ? widest : inner.width();
-    for (const Block& block : blocks)
+    for (Block& block : blocks)
+    {
         AlignLines(block, width);
+        PlaceLabel(block);
+    }
 
     double across = 0;
     if (shape.isLine || details.horizontal == Details::HorizontalAlign::Centre)
@@ -185,24 +239,49 @@ void ShapeText::Place(const ReferenceHost::ShapePicture& shape)
     else if (details.horizontal == Details::HorizontalAlign::Right)
         across = 1;
     double down = 0;
-    if (shape.isLine || details.vertical == Details::VerticalAlign::Middle)
+    if (shape.isTextAbove)
+        down = 1;
+    else if (shape.isLine || details.vertical == Details::VerticalAlign::Middle)
         down = 0.5;
     else if (details.vertical == Details::VerticalAlign::Bottom)
         down = 1;
     corner = {inner.left() + (isBlock ? across * (inner.width() - width) : 0),
               inner.top() + down * (inner.height() - height)};
+    Measure();
+}
+
+void ShapeText::Measure()
+{
     for (const Block& block : blocks)
     {
+        const QPointF begin = corner + QPointF(0, block.top);
         for (int index = 0; index < block.layout->lineCount(); ++index)
-            bounds |=
-                block.layout->lineAt(index).naturalTextRect().translated(corner + QPointF(0, block.top));
+            bounds |= block.layout->lineAt(index).naturalTextRect().translated(begin);
+        if (block.label != nullptr)
+            bounds |= block.label->lineAt(0).naturalTextRect().translated(begin + block.labelPlace);
     }
+    // Letters may reach a little over their line.
+    const double over = blocks.empty() ? 0 : height / static_cast<double>(blocks.size()) / 4;
+    bounds = turn.mapRect(bounds.adjusted(-over, -over, over, over));
 }
 
 void ShapeText::Paint(QPainter& painter) const
 {
+    const bool isTurned = !turn.isIdentity();
+    if (isTurned)
+    {
+        painter.save();
+        painter.setTransform(turn, true);
+    }
     for (const Block& block : blocks)
-        block.layout->draw(&painter, corner + QPointF(0, block.top));
+    {
+        const QPointF begin = corner + QPointF(0, block.top);
+        block.layout->draw(&painter, begin);
+        if (block.label != nullptr)
+            block.label->draw(&painter, begin + block.labelPlace);
+    }
+    if (isTurned)
+        painter.restore();
 }
 
 } // namespace Desktop

@@ -23,9 +23,14 @@ CanvasTest::~CanvasTest()
 
 void CanvasTest::Show(const FlatDrawing& drawing)
 {
+    ShowText(drawing.Text());
+}
+
+void CanvasTest::ShowText(const std::string& text)
+{
     canvas.ShowDrawing(nullptr);
     session.reset();
-    session = std::make_unique<Workbench::Session>(folder.Write("shown.fodg", drawing.Text()),
+    session = std::make_unique<Workbench::Session>(folder.Write("shown.fodg", text),
                                                    std::vector<Workbench::PanelDescription>());
     canvas.ShowDrawing(session.get());
 }

@@ -25,6 +25,9 @@ protected:
     /// Opens a drawing and shows its first page.
     void Show(const FlatDrawing& drawing);
 
+    /// The same with the text of a drawing.
+    void ShowText(const std::string& text);
+
     /// Shows these shapes, without lines and filled in red where their styles do not say otherwise.
     void ShowShapes(const std::string& shapes);
 

@@ -35,8 +35,9 @@ protected:
                          std::abs(left.blue() - right.blue())});
     }
 
-    /// How many pixels within a rectangle of the page are not as white as the page.
-    int PaintedPixels(QRectF onPage)
+    /// How many pixels within a rectangle of the page are darker than that; than the page where nothing is
+    /// said.
+    int PaintedPixels(QRectF onPage, int lightness = 250)
     {
         const QRect inWidget =
             QRectF(canvas.ToWidget(onPage.topLeft()), canvas.ToWidget(onPage.bottomRight())).toRect();
@@ -45,7 +46,7 @@ protected:
         for (int y = inWidget.top(); y <= inWidget.bottom(); ++y)
         {
             for (int x = inWidget.left(); x <= inWidget.right(); ++x)
-                count += picture.pixelColor(x, y).lightness() < 250 ? 1 : 0;
+                count += picture.pixelColor(x, y).lightness() < lightness ? 1 : 0;
         }
         return count;
     }
@@ -196,6 +197,131 @@ TEST_F(PaintedShapes, ChangeWithTheStylesWhenTheyAreRefreshed)
     canvas.RefreshStyles();
 
     EXPECT_EQ(ColourAt(8000, 8000), kWhite);
+}
+
+TEST_F(PaintedShapes, HaveTheStartOfAnAxialGradientInTheMiddle)
+{
+    ShowWith(
+        R"(draw:fill="gradient" draw:fill-gradient-name="G" draw:stroke="none")", kSquare,
+        R"(<draw:gradient draw:name="G" draw:style="axial" draw:start-color="#ff0000" draw:end-color="#0000ff"/>)");
+
+    EXPECT_LE(Difference(ColourAt(8000, 8000), QColor(255, 0, 0)), 12);
+    EXPECT_LE(Difference(ColourAt(8000, 4100), QColor(0, 0, 255)), 12);
+    EXPECT_LE(Difference(ColourAt(8000, 11900), QColor(0, 0, 255)), 12);
+}
+
+TEST_F(PaintedShapes, HaveAsManyColoursAsTheirGradientHasSteps)
+{
+    ShowWith(
+        R"(draw:fill="gradient" draw:fill-gradient-name="G" draw:gradient-step-count="4" draw:stroke="none")",
+        kSquare,
+        R"(<draw:gradient draw:name="G" draw:style="linear" draw:start-color="#ff0000" draw:end-color="#0000ff"/>)");
+
+    // Each step is 2 cm high.
+    EXPECT_EQ(ColourAt(8000, 4300), ColourAt(8000, 5700));
+    EXPECT_EQ(ColourAt(8000, 6300), ColourAt(8000, 7700));
+    EXPECT_NE(ColourAt(8000, 5700), ColourAt(8000, 6300));
+}
+
+TEST_F(PaintedShapes, FadeAsTheirOpacitySays)
+{
+    ShowWith(R"(draw:fill="solid" draw:fill-color="#000000" draw:opacity-name="O" draw:stroke="none")",
+             kSquare, R"(<draw:opacity draw:name="O" draw:style="linear" draw:start="100%" draw:end="0%"/>)");
+
+    EXPECT_LE(ColourAt(8000, 4100).lightness(), 12);
+    EXPECT_LE(Difference(ColourAt(8000, 8000), QColor(128, 128, 128)), 12);
+    EXPECT_GE(ColourAt(8000, 11900).lightness(), 243);
+    EXPECT_EQ(ColourAt(3000, 8000), kWhite);
+}
+
+TEST_F(PaintedShapes, ThrowTheirShadowBehindThem)
+{
+    ShowWith(R"(draw:fill="solid" draw:fill-color="#3366cc" draw:stroke="none" draw:shadow="visible")"
+             R"( draw:shadow-offset-x="2cm" draw:shadow-offset-y="1cm" draw:shadow-color="#ff0000")");
+
+    EXPECT_EQ(ColourAt(11000, 8000), QColor(0x33, 0x66, 0xcc));
+    EXPECT_EQ(ColourAt(13500, 8000), QColor(255, 0, 0));
+    EXPECT_EQ(ColourAt(13500, 4500), kWhite) << "above the shadow, which is 1 cm lower";
+}
+
+TEST_F(PaintedShapes, PaintTransparentArrowsOverTheirLineOnce)
+{
+    ShowWith(
+        R"(draw:stroke="solid" svg:stroke-color="#000000" svg:stroke-width="1cm" svg:stroke-opacity="50%" draw:marker-end="A" draw:marker-end-width="4cm")",
+        R"(<draw:line svg:x1="2cm" svg:y1="8cm" svg:x2="18cm" svg:y2="8cm"/>)",
+        R"(<draw:marker draw:name="A" svg:viewBox="0 0 20 20" svg:d="m10 0-10 20h20z"/>)");
+
+    // The arrow begins at 14 cm, and the line reaches a little into it.
+    EXPECT_EQ(ColourAt(14300, 8000), ColourAt(8000, 8000));
+}
+
+TEST_F(PaintedShapes, PutBitmapsWhereTheyAreAnchored)
+{
+    ShowWith(
+        R"(draw:fill="bitmap" draw:fill-image-name="B" style:repeat="no-repeat" draw:fill-image-width="2cm")"
+        R"( draw:fill-image-height="2cm" draw:fill-image-ref-point="top-left" draw:stroke="none")",
+        kSquare,
+        R"(<draw:fill-image draw:name="B"><office:binary-data>UDYKMiAyCjI1NQoA/wAA/wAA/wAA/wA=</office:binary-data></draw:fill-image>)");
+
+    EXPECT_EQ(ColourAt(5000, 5000), QColor(0, 255, 0));
+    EXPECT_EQ(ColourAt(8000, 8000), kWhite);
+}
+
+TEST_F(PaintedShapes, StandForWhatCannotBeShown)
+{
+    ShowWith(
+        R"(draw:fill="none" draw:stroke="none")",
+        R"(<draw:frame svg:x="4cm" svg:y="4cm" svg:width="8cm" svg:height="8cm"><draw:object/></draw:frame>)");
+
+    EXPECT_NE(ColourAt(5000, 5000), kWhite) << "the inside";
+    EXPECT_GT(PaintedPixels(QRectF(5000, 7000, 6000, 2000), 150), 0) << "the name in the middle";
+    EXPECT_EQ(PaintedPixels(QRectF(5000, 4500, 6000, 2000), 150), 0);
+}
+
+TEST_F(PaintedShapes, HaveBulletsBeforeTheirText)
+{
+    const std::string shape =
+        R"(<draw:rect svg:x="4cm" svg:y="4cm" svg:width="8cm" svg:height="8cm"><text:list text:style-name="L">)"
+        R"(<text:list-item><text:p>M</text:p></text:list-item></text:list></draw:rect>)";
+    ShowWith(
+        R"(draw:fill="none" draw:stroke="none")", shape,
+        R"(<text:list-style style:name="L"><text:list-level-style-number text:level="1" style:num-format="1">)"
+        R"(<style:list-level-properties text:min-label-width="3cm"/></text:list-level-style-number>)"
+        R"(</text:list-style>)");
+
+    EXPECT_GT(PaintedPixels(QRectF(4000, 4000, 1000, 1000)), 3) << "the number";
+    EXPECT_EQ(PaintedPixels(QRectF(5500, 4000, 1200, 1000)), 0) << "its room";
+    EXPECT_GT(PaintedPixels(QRectF(7000, 4000, 1000, 1000)), 3) << "the text";
+}
+
+TEST_F(PaintedShapes, TurnTheTextOfLines)
+{
+    ShowWith(
+        R"(draw:stroke="none")",
+        R"(<draw:line svg:x1="10cm" svg:y1="2cm" svg:x2="10cm" svg:y2="18cm"><text:p>MMMMMMMM</text:p></draw:line>)");
+
+    EXPECT_GT(PaintedPixels(QRectF(9500, 11000, 1000, 1000)), 3) << "below the middle";
+    EXPECT_EQ(PaintedPixels(QRectF(11000, 9500, 1000, 1000)), 0) << "beside it";
+}
+
+TEST_F(PaintedShapes, StandBeforeTheBackgroundOfThePage)
+{
+    std::string text =
+        FlatDrawing()
+            .Defaults(
+                R"(<style:graphic-properties draw:fill="solid" draw:fill-color="#3366cc" draw:stroke="none"/>)")
+            .Automatic(
+                R"(<style:style style:name="dp1" style:family="drawing-page"><style:drawing-page-properties)"
+                R"( draw:fill="solid" draw:fill-color="#ffff00"/></style:style>)")
+            .Page(kSquare)
+            .Text();
+    const std::string page = "<draw:page";
+    text.insert(text.find(page) + page.size(), R"( draw:style-name="dp1")");
+
+    ShowText(text);
+
+    EXPECT_EQ(ColourAt(2000, 2000), QColor(255, 255, 0));
+    EXPECT_EQ(ColourAt(8000, 8000), QColor(0x33, 0x66, 0xcc));
 }
 
 } // namespace
