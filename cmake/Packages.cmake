@@ -52,6 +52,8 @@ styles and presets. The panels of the library come with it.")
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME styleprops-desktop)
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS "styleprops (= ${PROJECT_VERSION})")
+# The dialogs of the toolkit speak German with it.
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 set(CPACK_DEBIAN_DESKTOP_DESCRIPTION
     "A window on an OpenDocument drawing: it shows for the selected shapes which
 values are local, inherited or ambiguous, and where they come from, and changes

@@ -77,12 +77,12 @@ void Replace(QTranslator* translator, const QString& name, bool isUsed)
 
 void TranslateToolkit(const std::string& language)
 {
-    Replace(new CatalogueTranslator, QStringLiteral("catalogueTranslator"), true);
-    // Asked before the other, because it was installed later.
     auto* const whole = new QTranslator;
     const bool isThere = whole->load(QLocale(QString::fromStdString(language)), QStringLiteral("qtbase"),
                                      QStringLiteral("_"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     Replace(whole, QStringLiteral("toolkitTranslator"), isThere);
+    // Asked before the other, because it is installed later.
+    Replace(new CatalogueTranslator, QStringLiteral("catalogueTranslator"), true);
 }
 
 } // namespace Desktop

@@ -4,16 +4,11 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
-namespace
-{
-
-// The resources of a static library have to be asked for, and outside all named namespaces.
-void NeedIcons()
+// The resources of a static library have to be asked for, and outside all namespaces.
+static void NeedIcons()
 {
     Q_INIT_RESOURCE(icons);
 }
-
-} // namespace
 
 namespace Desktop
 {

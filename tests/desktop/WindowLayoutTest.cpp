@@ -40,7 +40,8 @@ struct WindowLayout : testing::Test
         return open.Find<QDockWidget>(dock).isAncestorOf(QApplication::focusWidget());
     }
 
-    /// All widgets that Tab comes to, from the canvas on.
+    /// All widgets that Tab comes to, from the canvas on, which keeps Tab for its objects and is left by
+    /// Ctrl+Tab.
     std::vector<QWidget*> WalkByTab()
     {
         std::vector<QWidget*> walked;
@@ -49,7 +50,8 @@ struct WindowLayout : testing::Test
         do
         {
             walked.push_back(QApplication::focusWidget());
-            Press(Qt::Key_Tab);
+            const bool isOnCanvas = walked.back() == &open.Window().GetCanvas();
+            Press(Qt::Key_Tab, isOnCanvas ? Qt::ControlModifier : Qt::NoModifier);
         } while (QApplication::focusWidget() != walked.front() && walked.size() < kEnough);
         return walked;
     }

@@ -209,7 +209,7 @@ bool CanvasWidget::ZoomByKey(const QKeyEvent& event)
 bool CanvasWidget::LeaveByKey(const QKeyEvent& event)
 {
     const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
-    if (event.key() != Qt::Key_F6 && !(isTab && event.modifiers().testFlag(Qt::ControlModifier)))
+    if (!isTab || !event.modifiers().testFlag(Qt::ControlModifier))
         return false;
     QWidget::focusNextPrevChild(!event.modifiers().testFlag(Qt::ShiftModifier));
     return true;

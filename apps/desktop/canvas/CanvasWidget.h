@@ -31,8 +31,8 @@ namespace Desktop
 /// rectangle. The wheel, the middle button and dragging with the space bar move the page, the wheel with Ctrl
 /// makes it larger and smaller.
 ///
-/// With the keyboard Tab and Shift+Tab go from object to object, F6 or Ctrl+Tab to the next widget; arrows
-/// move the page, Page Up and Page Down turn it, Ctrl with plus, minus and zero changes its size.
+/// With the keyboard Tab and Shift+Tab go from object to object, Ctrl+Tab to the next widget; arrows move the
+/// page, Page Up and Page Down turn it, Ctrl with plus, minus and zero changes its size.
 ///
 /// Screen readers are told what is selected as the value of the widget.
 ///
