@@ -89,8 +89,12 @@ public:
 
     void Read(const PropertyKey& key, LookColour& target) const
     {
-        if (const CLR_COLORSPEC* const value = Find<CLR_COLORSPEC>(key))
-            target = value->ToRgb();
+        const CLR_COLORSPEC* const value = Find<CLR_COLORSPEC>(key);
+        if (value == nullptr)
+            return;
+        // Assigned at once, GCC 12 takes the three bytes for one when it optimises, and warns.
+        const LookColour read = value->ToRgb();
+        target = read;
     }
 
     /// The name of a choice; empty when nothing sets it.
