@@ -6,10 +6,28 @@
 
 namespace Desktop
 {
+namespace
+{
+
+/// The page without anything on it, and what is around.
+void PaintSheet(QPainter& painter, const QRect& part, const CanvasPage* page, const CanvasView& view,
+                const QPalette& palette)
+{
+    painter.fillRect(part, palette.color(QPalette::Mid));
+    if (page == nullptr)
+        return;
+    const QRectF sheet = view.ToView(QRectF({}, page->GetSize()));
+    painter.fillRect(sheet, Qt::white);
+    painter.setPen(palette.color(QPalette::Dark));
+    painter.drawRect(sheet);
+}
+
+} // namespace
 
 void CanvasBackground::Forget()
 {
     pixmap = QPixmap();
+    stretched = QPixmap();
 }
 
 void CanvasBackground::Forget(const QRegion& part)
@@ -20,6 +38,11 @@ void CanvasBackground::Forget(const QRegion& part)
 
 bool CanvasBackground::MoveBy(QPointF pixels)
 {
+    if (IsStretched())
+    {
+        stretch *= QTransform::fromTranslate(pixels.x(), pixels.y());
+        return true;
+    }
     const QPointF onScreen = pixels * pixmap.devicePixelRatio();
     const QPoint whole = onScreen.toPoint();
     if (pixmap.isNull() || pixels != QPointF(pixels.toPoint()) || onScreen != QPointF(whole))
@@ -34,6 +57,16 @@ bool CanvasBackground::MoveBy(QPointF pixels)
     return true;
 }
 
+void CanvasBackground::Stretch(QPointF fixed, double factor)
+{
+    if (!IsStretched())
+    {
+        stretched = pixmap;
+        stretch = QTransform();
+    }
+    stretch *= QTransform(factor, 0, 0, factor, fixed.x() * (1 - factor), fixed.y() * (1 - factor));
+}
+
 const QPixmap& CanvasBackground::Update(QSize size, double ratio, CanvasPage* page, const CanvasView& view,
                                         const QPalette& palette)
 {
@@ -44,6 +77,11 @@ const QPixmap& CanvasBackground::Update(QSize size, double ratio, CanvasPage* pa
         pixmap = QPixmap(onScreen);
         pixmap.setDevicePixelRatio(ratio);
         missing = QRect(QPoint(), size);
+    }
+    if (IsStretched())
+    {
+        PaintStretched(page, view, palette);
+        return pixmap;
     }
     for (const QRect& part : missing)
         Paint(part, page, view, palette);
@@ -56,16 +94,22 @@ void CanvasBackground::Paint(const QRect& part, CanvasPage* page, const CanvasVi
 {
     QPainter painter(&pixmap);
     painter.setClipRect(part);
-    painter.fillRect(part, palette.color(QPalette::Mid));
+    PaintSheet(painter, part, page, view, palette);
     if (page == nullptr)
         return;
-    const QRectF sheet = view.ToView(QRectF({}, page->GetSize()));
-    painter.fillRect(sheet, Qt::white);
-    painter.setPen(palette.color(QPalette::Dark));
-    painter.drawRect(sheet);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setTransform(view.GetTransform(), true);
     page->Paint(painter, view.ToPage(QRectF(part).adjusted(-1, -1, 1, 1)));
+}
+
+void CanvasBackground::PaintStretched(const CanvasPage* page, const CanvasView& view, const QPalette& palette)
+{
+    QPainter painter(&pixmap);
+    PaintSheet(painter, QRect(QPoint(), pixmap.deviceIndependentSize().toSize()), page, view, palette);
+    if (page != nullptr)
+        painter.setClipRect(view.ToView(QRectF({}, page->GetSize())));
+    painter.setTransform(stretch, true);
+    painter.drawPixmap(0, 0, stretched);
 }
 
 } // namespace Desktop

@@ -9,6 +9,7 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include <cstddef>
 #include <set>
 #include <vector>
 
@@ -27,6 +28,8 @@ public:
     CanvasPage& operator=(const CanvasPage&) = delete;
 
     [[nodiscard]] QSizeF GetSize() const noexcept { return size; }
+
+    [[nodiscard]] std::size_t CountShapes() const noexcept { return shapes.size(); }
 
     /// Paints the background of the page and the shapes that may be seen within `visible`, in order.
     void Paint(QPainter& painter, const QRectF& visible);

@@ -7,6 +7,7 @@
 #include "apps/desktop/painting/PaintMaterials.h"
 #include "reference_host/document/picture/DrawingPicture.h"
 
+#include <QBasicTimer>
 #include <QPointF>
 #include <QRectF>
 
@@ -42,6 +43,7 @@ struct CanvasWidget::State
     CanvasView view;
     bool isWholePage = true; ///< The size follows that of the widget.
     CanvasBackground background;
+    QBasicTimer rest;           ///< Runs while the background is stretched.
     ObjectSet selected;         ///< Groups may be among them.
     std::vector<QRectF> frames; ///< Around what is selected, on the page.
 

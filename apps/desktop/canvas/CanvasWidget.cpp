@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QRegion>
 #include <QStringList>
+#include <QTimerEvent>
 
 #include <cstddef>
 #include <string>
@@ -179,6 +180,7 @@ QPointF CanvasWidget::ToWidget(QPointF onPage) const
 
 void CanvasWidget::Repaint()
 {
+    state->rest.stop();
     state->background.Forget();
     update();
 }
@@ -194,7 +196,22 @@ void CanvasWidget::MoveBy(QPointF pixels)
 void CanvasWidget::ZoomAt(QPointF fixed, double factor)
 {
     state->isWholePage = false;
+    const double before = state->view.GetScale();
     state->view.ZoomAt(fixed, factor);
+    // A wheel turns faster than many objects are painted: those wait until it rests.
+    constexpr std::size_t kFewShapes = 500;
+    constexpr int kRestInMs = 120;
+    if (state->page == nullptr || state->page->CountShapes() <= kFewShapes)
+        return Repaint();
+    state->background.Stretch(fixed, state->view.GetScale() / before);
+    state->rest.start(kRestInMs, this);
+    update();
+}
+
+void CanvasWidget::timerEvent(QTimerEvent* event)
+{
+    if (event->timerId() != state->rest.timerId())
+        return QWidget::timerEvent(event);
     Repaint();
 }
 

@@ -74,7 +74,8 @@ public:
     /// Shows the page of that number, counted from zero; one that there is not is passed over.
     void SetPage(int page);
 
-    /// Makes everything larger by that factor, or smaller by one below 1, around the middle of the view.
+    /// Makes everything larger by that factor, or smaller by one below 1, around the middle of the view. With
+    /// many objects it is blurred until nobody has asked for more for a moment.
     void ZoomBy(double factor);
 
     /// Chooses the size at which the whole page is in view.
@@ -99,6 +100,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     bool focusNextPrevChild(bool isNext) override;
 
 private:

@@ -66,4 +66,33 @@ TEST_F(CanvasBackgrounds, PaintOnlyWhatWasForgotten)
     EXPECT_EQ(after.pixelColor((square.bottomRight() + QPointF(20, -5)).toPoint()), QColor(255, 255, 255));
 }
 
+TEST_F(CanvasBackgrounds, AreStretchedAtOnceAndPaintedWhenForgotten)
+{
+    const QPointF fixed(150, 150);
+    const auto zoom = [&](double factor)
+    {
+        view.ZoomAt(fixed, factor);
+        background.Stretch(fixed, factor);
+    };
+    view.ZoomAt(fixed, 8);
+    const QPoint corner = view.ToView(QRectF(5100, 5100, 0, 0)).topLeft().toPoint();
+    ASSERT_FALSE(QRect(0, 0, 300, 400).contains(corner)) << "it is painted only after the page is smaller";
+    static_cast<void>(Update(1));
+
+    zoom(0.25);
+    zoom(0.5);
+    const QImage stretched = Update(1);
+    const bool wasStretched = background.IsStretched();
+    background.Forget();
+    const QImage painted = Update(1);
+
+    const QPoint inCorner = view.ToView(QRectF(5200, 5200, 0, 0)).topLeft().toPoint();
+    const QPoint inMiddle = fixed.toPoint();
+    EXPECT_TRUE(wasStretched);
+    EXPECT_EQ(stretched.pixelColor(inMiddle), painted.pixelColor(inMiddle)) << "it was there before";
+    EXPECT_EQ(stretched.pixelColor(inCorner), QColor(255, 255, 255));
+    EXPECT_EQ(painted.pixelColor(inCorner), QColor(255, 0, 0));
+    EXPECT_FALSE(background.IsStretched());
+}
+
 } // namespace

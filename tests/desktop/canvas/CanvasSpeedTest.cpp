@@ -1,5 +1,7 @@
 #include "tests/desktop/canvas/CanvasFixture.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 
 #include <cstdio>
@@ -30,6 +32,30 @@ TEST_F(ManyShapes, ArePaintedAllAndMovedInPart)
     Turn({7000, 3000}, -1);
     static_cast<void>(Picture());
     std::printf("moved: %lld ms\n", static_cast<long long>(timer.elapsed()));
+}
+
+TEST_F(ManyShapes, AreSharpAgainWhenTheWheelRests)
+{
+    std::string shapes;
+    for (int index = 0; index < 600; ++index)
+    {
+        shapes += R"(<draw:rect svg:width="6mm" svg:height="6mm" svg:x=")" + std::to_string(index % 20 * 10) +
+                  R"(mm" svg:y=")" + std::to_string(index / 20 * 9) + "mm\"/>";
+    }
+    ShowShapes(shapes);
+    static_cast<void>(Picture());
+
+    Turn({7000, 9000}, 5, Qt::ControlModifier);
+    const QImage atOnce = Picture();
+    QImage rested = atOnce;
+    for (const QDeadlineTimer most(10000); rested == atOnce && !most.hasExpired(); rested = Picture())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 50);
+    canvas.RefreshStyles();
+
+    EXPECT_NE(rested, atOnce) << "edges are blurred as long as the wheel turns";
+    EXPECT_EQ(atOnce.pixelColor(canvas.ToWidget({7300, 9300}).toPoint()), QColor(255, 0, 0))
+        << "but in their places";
+    EXPECT_EQ(rested.pixelColor(canvas.ToWidget({7300, 9300}).toPoint()), QColor(255, 0, 0));
 }
 
 } // namespace
