@@ -9,6 +9,7 @@ namespace ReferenceHost
 namespace Odf
 {
 inline constexpr std::string_view kOffice = "urn:oasis:names:tc:opendocument:xmlns:office:1.0";
+inline constexpr std::string_view kPresentation = "urn:oasis:names:tc:opendocument:xmlns:presentation:1.0";
 inline constexpr std::string_view kStyle = "urn:oasis:names:tc:opendocument:xmlns:style:1.0";
 inline constexpr std::string_view kText = "urn:oasis:names:tc:opendocument:xmlns:text:1.0";
 inline constexpr std::string_view kDraw = "urn:oasis:names:tc:opendocument:xmlns:drawing:1.0";

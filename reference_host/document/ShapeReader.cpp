@@ -43,6 +43,7 @@ constexpr std::array<Kind, 17> kKinds{{{{Odf::kDraw, "custom-shape"}, L"custom-s
 constexpr XmlName kGroup{Odf::kDraw, "g"};
 constexpr XmlName kLink{Odf::kDraw, "a"};
 constexpr XmlName kPage{Odf::kDraw, "page"};
+constexpr XmlName kMasterPage{Odf::kStyle, "master-page"};
 
 } // namespace
 
@@ -60,15 +61,27 @@ ShapeReader::ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, s
 void ShapeReader::Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages,
                        std::deque<DrawingObject>& objects, const ProgressSpan& reading)
 {
-    allObjects = &objects;
     progress = reading;
     start = PlaceOfElement(drawing, source);
     progress.Start(source.size() - start);
+    ReadPages(drawing, kPage, pages, objects);
+}
+
+void ShapeReader::ReadMasters(pugi::xml_node masters, std::vector<DrawingPage>& pages,
+                              std::deque<DrawingObject>& objects)
+{
+    ReadPages(masters, kMasterPage, pages, objects);
+}
+
+void ShapeReader::ReadPages(pugi::xml_node container, const XmlName& pageElement,
+                            std::vector<DrawingPage>& pages, std::deque<DrawingObject>& objects)
+{
+    allObjects = &objects;
     std::vector<pugi::xml_node> elements;
-    for (const pugi::xml_node element : drawing.children())
+    for (const pugi::xml_node element : container.children())
     {
         const XmlNames::Scope scope(names, element);
-        if (names.Of(element) == kPage)
+        if (names.Of(element) == pageElement)
             elements.push_back(element);
     }
     // Objects point to their pages.

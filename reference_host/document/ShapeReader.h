@@ -33,6 +33,10 @@ public:
     void Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages, std::deque<DrawingObject>& objects,
               const ProgressSpan& reading);
 
+    /// The same of the master pages in office:master-styles.
+    void ReadMasters(pugi::xml_node masters, std::vector<DrawingPage>& pages,
+                     std::deque<DrawingObject>& objects);
+
 private:
     /// Where shapes are added: to a page or to a group on it.
     struct Place
@@ -42,6 +46,8 @@ private:
         std::vector<DrawingObject*>* members;
     };
 
+    void ReadPages(pugi::xml_node container, const XmlName& pageElement, std::vector<DrawingPage>& pages,
+                   std::deque<DrawingObject>& objects);
     void ReadMembers(pugi::xml_node container, const Place& place);
     void ReadMember(pugi::xml_node element, const Place& place);
     DrawingObject& AddObject(pugi::xml_node element, const Place& place);

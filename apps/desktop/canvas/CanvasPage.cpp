@@ -38,6 +38,12 @@ DrawingObject* FindSelected(DrawingObject* object, const ObjectSet& selected)
 CanvasPage::CanvasPage(const ReferenceHost::PagePicture& page, PaintMaterials& paintMaterials)
     : size(page.width, page.height), background(&page.background), materials(&paintMaterials)
 {
+    if (page.behind != nullptr)
+    {
+        behind.reserve(page.behind->size());
+        for (const ReferenceHost::ShapePicture& shape : *page.behind)
+            behind.emplace_back(shape, reader);
+    }
     shapes.reserve(page.shapes.size());
     for (const ReferenceHost::ShapePicture& shape : page.shapes)
         shapes.emplace_back(shape, reader);
@@ -68,10 +74,13 @@ void CanvasPage::PaintBackground(QPainter& painter)
 void CanvasPage::Paint(QPainter& painter, const QRectF& visible)
 {
     PaintBackground(painter);
-    for (CanvasShape& shape : shapes)
+    for (std::vector<CanvasShape>* const layer : {&behind, &shapes})
     {
-        if (shape.GetPaintedBounds().intersects(visible))
-            PaintShape(painter, shape, *materials);
+        for (CanvasShape& shape : *layer)
+        {
+            if (shape.GetPaintedBounds().intersects(visible))
+                PaintShape(painter, shape, *materials);
+        }
     }
 }
 
@@ -143,11 +152,14 @@ std::vector<QRectF> CanvasPage::RefreshLooks()
 {
     std::vector<QRectF> changed;
     reader.Forget();
-    for (CanvasShape& shape : shapes)
+    for (std::vector<CanvasShape>* const layer : {&behind, &shapes})
     {
-        const QRectF before = shape.GetPaintedBounds();
-        if (shape.RefreshLook())
-            changed.push_back(before | shape.GetPaintedBounds());
+        for (CanvasShape& shape : *layer)
+        {
+            const QRectF before = shape.GetPaintedBounds();
+            if (shape.RefreshLook())
+                changed.push_back(before | shape.GetPaintedBounds());
+        }
     }
     return changed;
 }

@@ -61,7 +61,8 @@ private:
     QSizeF size;
     const ReferenceHost::PageBackground* background;
     PaintMaterials* materials;
-    Workbench::LookReader reader; ///< The shapes read by it.
+    Workbench::LookReader reader;    ///< The shapes read by it.
+    std::vector<CanvasShape> behind; ///< Of the master page: seen and never pointed at.
     std::vector<CanvasShape> shapes;
 };
 

@@ -6,6 +6,7 @@
 #include "host/colour/CLR_COLORSPEC.h"
 #include "host/utils/OvxStringT.h"
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -13,6 +14,7 @@ namespace ReferenceHost
 {
 
 class DrawingObject;
+class MasterShapes;
 
 /// What the styles of a shape tell about its looks beyond the properties that panels edit, as the file says.
 struct ShapeDetails
@@ -130,12 +132,16 @@ struct PagePicture
     double height = 0;
     PageBackground background;
     std::vector<ShapePicture> shapes; ///< Those in groups among them.
+
+    /// The shapes of its master page, which are drawn below and are no objects of the drawing; null without.
+    std::shared_ptr<const std::vector<ShapePicture>> behind;
 };
 
 /// What a drawing looks like, apart from the styles.
 struct DrawingPicture
 {
-    std::vector<PagePicture> pages; ///< As many as the drawing has.
+    std::vector<PagePicture> pages;        ///< As many as the drawing has.
+    std::shared_ptr<MasterShapes> masters; ///< Whose the shapes behind pages are; the drawing outlives it.
     Definitions definitions;
 };
 

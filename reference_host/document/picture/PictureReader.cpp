@@ -5,6 +5,7 @@
 #include "reference_host/document/XmlSource.h"
 #include "reference_host/document/XmlTree.h"
 #include "reference_host/document/picture/DefinitionReader.h"
+#include "reference_host/document/picture/MasterShapes.h"
 #include "reference_host/document/picture/ShapeGeometry.h"
 
 #include "host/utils/Utf8.h"
@@ -65,6 +66,10 @@ DrawingPicture PictureReader::Read(const ProgressSpan& whole)
     ReadStylesOf(pages->document_element());
     if (styles != nullptr)
         ReadStylesOf(styles->document_element());
+    if (styles != nullptr)
+        ReadMasterShapes(styles->document_element(), stylesText);
+    else
+        ReadMasterShapes(pages->document_element(), content);
     ReadPages(pages->document_element());
     return std::move(picture);
 }
@@ -97,7 +102,8 @@ void PictureReader::ReadMasters(pugi::xml_node root)
                         masters.try_emplace(
                             std::string(names.Attribute(master, {Odf::kStyle, "name"})),
                             Master{std::string(names.Attribute(master, {Odf::kStyle, "page-layout-name"})),
-                                   std::string(names.Attribute(master, {Odf::kDraw, "style-name"}))});
+                                   std::string(names.Attribute(master, {Odf::kDraw, "style-name"})),
+                                   nullptr});
                     });
             });
 }
@@ -156,6 +162,7 @@ void PictureReader::ReadPage(pugi::xml_node element, PagePicture& page)
     if (page.background.kind == PageBackground::Kind::None)
         page.background = masterDetails.FindBackground(master.style);
     page.background.box = page.background.isWholePage ? Box{0, 0, page.width, page.height} : inner;
+    page.behind = master.shapes;
     ReadShapes(element, page);
 }
 
@@ -176,15 +183,56 @@ void PictureReader::ReadShapes(pugi::xml_node container, PagePicture& page)
         progress.Reach(place);
         const auto object = objectsByPlace.find(place);
         if (object != objectsByPlace.end())
-            ReadShape(element, *object->second, page);
+            ReadShape(element, *object->second, details, page.shapes);
     }
 }
 
-void PictureReader::ReadShape(pugi::xml_node element, DrawingObject& object, PagePicture& page)
+void PictureReader::ReadMasterShapes(pugi::xml_node root, std::string_view text)
 {
-    ShapePicture& shape = page.shapes.emplace_back();
+    const XmlNames::Scope rootScope(names, root);
+    picture.masters = std::make_shared<MasterShapes>(data);
+    picture.masters->Read(root, text, names);
+    ForEach(root, names, {Odf::kOffice, "master-styles"},
+            [&](pugi::xml_node container)
+            {
+                ForEach(container, names, {Odf::kStyle, "master-page"},
+                        [&](pugi::xml_node element)
+                        {
+                            auto& shapes =
+                                masters[std::string(names.Attribute(element, {Odf::kStyle, "name"}))].shapes;
+                            // Of two with one name the first one counts.
+                            if (shapes != nullptr)
+                                return;
+                            shapes = std::make_shared<ShapePictures>();
+                            ReadMasterShapes(element, text, *shapes);
+                        });
+            });
+}
+
+void PictureReader::ReadMasterShapes(pugi::xml_node container, std::string_view text, ShapePictures& shapes)
+{
+    for (const pugi::xml_node element : container.children())
+    {
+        if (element.type() != pugi::node_element)
+            continue;
+        const XmlNames::Scope scope(names, element);
+        const XmlName name = names.Of(element);
+        // What presentations put titles and notes in says nothing by itself.
+        if (names.HasAttribute(element, {Odf::kPresentation, "class"}))
+            continue;
+        if (name == XmlName{Odf::kDraw, "a"} || name == XmlName{Odf::kDraw, "g"})
+            ReadMasterShapes(element, text, shapes);
+        else if (DrawingObject* const object = picture.masters->FindAt(PlaceOfElement(element, text)))
+            ReadShape(element, *object, masterDetails, shapes);
+    }
+}
+
+void PictureReader::ReadShape(pugi::xml_node element, DrawingObject& object, StyleDetails& styles,
+                              ShapePictures& shapes)
+{
+    ShapePicture& shape = shapes.emplace_back();
     shape.object = &object;
-    shape.details = details.Find(names.Attribute(element, {Odf::kDraw, "style-name"}));
+    shape.details = styles.Find(names.Attribute(element, {Odf::kDraw, "style-name"}));
     ReadGeometry(element, names, shape);
     shape.runTexts = runTexts.Read(element);
     shape.labels = labels.Read(element);

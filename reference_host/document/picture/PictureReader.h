@@ -16,6 +16,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace ReferenceHost
 {
@@ -31,6 +32,7 @@ public:
     [[nodiscard]] DrawingPicture Read(const ProgressSpan& whole);
 
 private:
+    using ShapePictures = std::vector<ShapePicture>;
     using Tree = std::unique_ptr<pugi::xml_document>;
 
     struct Layout
@@ -43,6 +45,7 @@ private:
     {
         std::string layout;
         std::string style;
+        std::shared_ptr<ShapePictures> shapes; ///< Null without any.
     };
 
     void ReadStylesOf(pugi::xml_node root);
@@ -51,7 +54,10 @@ private:
     void ReadPages(pugi::xml_node root);
     void ReadPage(pugi::xml_node element, PagePicture& page);
     void ReadShapes(pugi::xml_node container, PagePicture& page);
-    void ReadShape(pugi::xml_node element, DrawingObject& object, PagePicture& page);
+    void ReadShape(pugi::xml_node element, DrawingObject& object, StyleDetails& styles,
+                   ShapePictures& shapes);
+    void ReadMasterShapes(pugi::xml_node root, std::string_view text);
+    void ReadMasterShapes(pugi::xml_node container, std::string_view text, ShapePictures& shapes);
     void FindImage(pugi::xml_node frame, ShapePicture& shape);
     [[nodiscard]] OvxStringT FindPlaceholder(pugi::xml_node element, const DrawingObject& object);
 
