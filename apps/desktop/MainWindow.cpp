@@ -306,10 +306,4 @@ void MainWindow::KeepBackup(bool isKept)
     Remember(QStringLiteral("keepBackup"), isKept);
 }
 
-void MainWindow::ShowPageAt(int page)
-{
-    canvas->SetPage(page);
-    ShowPage();
-}
-
 } // namespace Desktop

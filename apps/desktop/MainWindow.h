@@ -61,9 +61,6 @@ public:
     /// @returns false when there is nothing of that name to open.
     bool OpenNamed(const QString& name);
 
-    /// Turns to a page, counted from zero; one that there is not is passed over.
-    void ShowPageAt(int page);
-
     /// Shows all texts in another language; one that there is not changes nothing.
     void ShowLanguage(const std::string& language);
 

@@ -91,9 +91,9 @@ void MainWindow::MakeViewMenu()
               [this] { canvas->ZoomToPage(); });
     menu.addSeparator();
     previousPage = AddAction(menu, L"window.view.previous-page", QKeySequence(QStringLiteral("Ctrl+PgUp")),
-                             [this] { ShowPageAt(canvas->CurrentPage() - 1); });
+                             [this] { canvas->SetPage(canvas->CurrentPage() - 1); });
     nextPage = AddAction(menu, L"window.view.next-page", QKeySequence(QStringLiteral("Ctrl+PgDown")),
-                         [this] { ShowPageAt(canvas->CurrentPage() + 1); });
+                         [this] { canvas->SetPage(canvas->CurrentPage() + 1); });
     menu.addSeparator();
     MakePaneEntries(menu);
     menu.addSeparator();
@@ -153,6 +153,7 @@ void MainWindow::Connect()
                 if (isAttended)
                     QMessageBox::warning(this, TextOf(L"window.failed"), message);
             });
+    connect(canvas, &CanvasWidget::pageChanged, this, &MainWindow::ShowPage);
     connect(canvas, &CanvasWidget::selectionChanged, &document,
             [this](const std::vector<ReferenceHost::DrawingObject*>& objects)
             { document.SelectObjects(objects); });

@@ -6,6 +6,7 @@
 #include "apps/desktop/WindowOptions.h"
 #include "apps/desktop/WindowPicture.h"
 #include "apps/desktop/WindowText.h"
+#include "apps/desktop/canvas/CanvasWidget.h"
 #include "apps/workbench/PanelFolder.h"
 #include "reference_host/resources/Language.h"
 
@@ -68,7 +69,7 @@ bool Begin(MainWindow& window, const WindowOptions& options)
                      [](const QString& message) { WriteLine(std::cerr, message); });
     if (!options.file.isEmpty() && !window.OpenFile(PathFromQString(options.file)))
         return false;
-    window.ShowPageAt(options.page - 1);
+    window.GetCanvas().SetPage(options.page - 1);
     return options.selector.isEmpty() || window.GetDocument().Select(FromQString(options.selector));
 }
 

@@ -132,3 +132,14 @@ TEST(WindowPages, AreTurnedFromTheMenu)
     EXPECT_EQ(open.Window().GetCanvas().CurrentPage(), 1);
     EXPECT_FALSE(open.Window().findChild<QAction*>(QStringLiteral("window.view.next-page"))->isEnabled());
 }
+
+TEST(WindowPages, AreTurnedByKeyOnTheCanvas)
+{
+    OpenWindow open(FlatDrawing().Page("<draw:rect/>").Page("<draw:ellipse/>"));
+
+    QTest::keyClick(&open.Window().GetCanvas(), Qt::Key_PageDown);
+
+    EXPECT_EQ(open.Window().GetCanvas().CurrentPage(), 1);
+    EXPECT_FALSE(open.Window().findChild<QAction*>(QStringLiteral("window.view.next-page"))->isEnabled());
+    EXPECT_TRUE(open.Window().findChild<QAction*>(QStringLiteral("window.view.previous-page"))->isEnabled());
+}

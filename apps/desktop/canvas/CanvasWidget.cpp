@@ -158,6 +158,7 @@ void CanvasWidget::SetPage(int page)
         state->view.Fit(state->page->GetSize(), size());
     Repaint();
     UpdateFrames();
+    emit pageChanged();
 }
 
 void CanvasWidget::ZoomBy(double factor)

@@ -88,6 +88,9 @@ signals:
     /// A person selected other objects, in document order and without groups; perhaps none.
     void selectionChanged(std::vector<ReferenceHost::DrawingObject*> objects);
 
+    /// Another page is shown, by whatever way.
+    void pageChanged();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
