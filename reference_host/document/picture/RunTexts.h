@@ -17,8 +17,8 @@ namespace ReferenceHost
 class RunTexts final : private ITextVisitor
 {
 public:
-    /// Borrows the names.
-    explicit RunTexts(XmlNames& xmlNames) : names(xmlNames), walker(xmlNames, *this) {}
+    /// Borrows the names, which outlive this.
+    explicit RunTexts(XmlNames& xmlNames) : walker(xmlNames, *this) {}
 
     /// One text for each run of a shape, in order. `shape` is the element, whose scope is in force.
     [[nodiscard]] std::vector<OvxStringT> Read(pugi::xml_node shape);
@@ -31,7 +31,6 @@ private:
     void Content(pugi::xml_node node) override;
     void AddCharacters(const char* text);
 
-    XmlNames& names;
     TextWalker walker;
     std::vector<std::string> texts; ///< In UTF-8.
     bool endsWithBlank = true;      ///< A blank that follows is not shown.
