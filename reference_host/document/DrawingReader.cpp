@@ -30,18 +30,6 @@ constexpr double kParsed = 0.34;
 constexpr double kStylesRead = 0.48;
 constexpr double kSheetsRead = 0.55;
 
-/// Calls `visit` for each child element of `parent` that is called `name`, while its scope is in force.
-template <class Visitor>
-void ForEachChild(pugi::xml_node parent, XmlNames& names, const XmlName& name, const Visitor& visit)
-{
-    for (const pugi::xml_node child : parent.children())
-    {
-        const XmlNames::Scope scope(names, child);
-        if (names.Of(child) == name)
-            visit(child);
-    }
-}
-
 } // namespace
 
 DrawingReader::DrawingReader(DrawingData& target, std::vector<std::string>& warningLines,

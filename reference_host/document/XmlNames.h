@@ -56,4 +56,16 @@ private:
     NamespaceBindings bindings;
 };
 
+/// Calls `visit` for each child element of `parent` that is called `name`, while its scope is in force.
+template <class Visitor>
+void ForEachChild(pugi::xml_node parent, XmlNames& names, const XmlName& name, const Visitor& visit)
+{
+    for (const pugi::xml_node child : parent.children())
+    {
+        const XmlNames::Scope scope(names, child);
+        if (names.Of(child) == name)
+            visit(child);
+    }
+}
+
 } // namespace ReferenceHost

@@ -25,18 +25,6 @@ namespace
 constexpr double kPageWidth = 21000;
 constexpr double kPageHeight = 29700;
 
-/// Calls `visit` for each element below `parent` that is called `name`, while its scope is in force.
-template <class Visitor>
-void ForEach(pugi::xml_node parent, XmlNames& names, const XmlName& name, const Visitor& visit)
-{
-    for (const pugi::xml_node child : parent.children())
-    {
-        const XmlNames::Scope scope(names, child);
-        if (names.Of(child) == name)
-            visit(child);
-    }
-}
-
 } // namespace
 
 PictureReader::PictureReader(DrawingData& drawing)
@@ -86,47 +74,48 @@ void PictureReader::ReadMasters(pugi::xml_node root)
 {
     const XmlNames::Scope rootScope(names, root);
     masterDetails.AddStyles(root, names);
-    ForEach(root, names, {Odf::kOffice, "automatic-styles"},
-            [&](pugi::xml_node container)
-            {
-                ForEach(container, names, {Odf::kStyle, "page-layout"},
-                        [&](pugi::xml_node layout) { ReadLayout(layout); });
-            });
-    ForEach(root, names, {Odf::kOffice, "master-styles"},
-            [&](pugi::xml_node container)
-            {
-                ForEach(
-                    container, names, {Odf::kStyle, "master-page"},
-                    [&](pugi::xml_node master)
-                    {
-                        masters.try_emplace(
-                            std::string(names.Attribute(master, {Odf::kStyle, "name"})),
-                            Master{std::string(names.Attribute(master, {Odf::kStyle, "page-layout-name"})),
-                                   std::string(names.Attribute(master, {Odf::kDraw, "style-name"})),
-                                   nullptr});
-                    });
-            });
+    ForEachChild(root, names, {Odf::kOffice, "automatic-styles"},
+                 [&](pugi::xml_node container)
+                 {
+                     ForEachChild(container, names, {Odf::kStyle, "page-layout"},
+                                  [&](pugi::xml_node layout) { ReadLayout(layout); });
+                 });
+    ForEachChild(
+        root, names, {Odf::kOffice, "master-styles"},
+        [&](pugi::xml_node container)
+        {
+            ForEachChild(
+                container, names, {Odf::kStyle, "master-page"},
+                [&](pugi::xml_node master)
+                {
+                    masters.try_emplace(
+                        std::string(names.Attribute(master, {Odf::kStyle, "name"})),
+                        Master{std::string(names.Attribute(master, {Odf::kStyle, "page-layout-name"})),
+                               std::string(names.Attribute(master, {Odf::kDraw, "style-name"})), nullptr});
+                });
+        });
 }
 
 void PictureReader::ReadLayout(pugi::xml_node layout)
 {
     const std::string name(names.Attribute(layout, {Odf::kStyle, "name"}));
-    ForEach(layout, names, {Odf::kStyle, "page-layout-properties"},
-            [&](pugi::xml_node element)
+    ForEachChild(
+        layout, names, {Odf::kStyle, "page-layout-properties"},
+        [&](pugi::xml_node element)
+        {
+            const auto length = [&](std::string_view local, double otherwise) -> double
             {
-                const auto length = [&](std::string_view local, double otherwise) -> double
-                {
-                    const std::optional<int> given = ParseLength(names.Attribute(element, {Odf::kFo, local}));
-                    return given ? *given : otherwise;
-                };
-                const double margin = length("margin", 0);
-                const double left = length("margin-left", margin);
-                const double top = length("margin-top", margin);
-                const Point size{length("page-width", 0), length("page-height", 0)};
-                layouts.try_emplace(name, Layout{size,
-                                                 {left, top, size.x - left - length("margin-right", margin),
-                                                  size.y - top - length("margin-bottom", margin)}});
-            });
+                const std::optional<int> given = ParseLength(names.Attribute(element, {Odf::kFo, local}));
+                return given ? *given : otherwise;
+            };
+            const double margin = length("margin", 0);
+            const double left = length("margin-left", margin);
+            const double top = length("margin-top", margin);
+            const Point size{length("page-width", 0), length("page-height", 0)};
+            layouts.try_emplace(name, Layout{size,
+                                             {left, top, size.x - left - length("margin-right", margin),
+                                              size.y - top - length("margin-bottom", margin)}});
+        });
 }
 
 void PictureReader::ReadPages(pugi::xml_node root)
@@ -134,14 +123,14 @@ void PictureReader::ReadPages(pugi::xml_node root)
     picture.pages.reserve(data.pages.size());
     const XmlNames::Scope rootScope(names, root);
     const auto readPage = [&](pugi::xml_node page) { ReadPage(page, picture.pages.emplace_back()); };
-    ForEach(root, names, {Odf::kOffice, "body"},
-            [&](pugi::xml_node body)
-            {
-                ForEach(body, names, {Odf::kOffice, "drawing"},
-                        [&](pugi::xml_node drawing) {
-                            ForEach(drawing, names, {Odf::kDraw, "page"}, readPage);
-                        });
-            });
+    ForEachChild(root, names, {Odf::kOffice, "body"},
+                 [&](pugi::xml_node body)
+                 {
+                     ForEachChild(body, names, {Odf::kOffice, "drawing"},
+                                  [&](pugi::xml_node drawing) {
+                                      ForEachChild(drawing, names, {Odf::kDraw, "page"}, readPage);
+                                  });
+                 });
 }
 
 void PictureReader::ReadPage(pugi::xml_node element, PagePicture& page)
@@ -192,21 +181,22 @@ void PictureReader::ReadMasterShapes(pugi::xml_node root, std::string_view text)
     const XmlNames::Scope rootScope(names, root);
     picture.masters = std::make_shared<MasterShapes>(data);
     picture.masters->Read(root, text, names);
-    ForEach(root, names, {Odf::kOffice, "master-styles"},
-            [&](pugi::xml_node container)
-            {
-                ForEach(container, names, {Odf::kStyle, "master-page"},
-                        [&](pugi::xml_node element)
-                        {
-                            auto& shapes =
-                                masters[std::string(names.Attribute(element, {Odf::kStyle, "name"}))].shapes;
-                            // Of two with one name the first one counts.
-                            if (shapes != nullptr)
-                                return;
-                            shapes = std::make_shared<ShapePictures>();
-                            ReadMasterShapes(element, text, *shapes);
-                        });
-            });
+    ForEachChild(root, names, {Odf::kOffice, "master-styles"},
+                 [&](pugi::xml_node container)
+                 {
+                     ForEachChild(
+                         container, names, {Odf::kStyle, "master-page"},
+                         [&](pugi::xml_node element)
+                         {
+                             auto& shapes =
+                                 masters[std::string(names.Attribute(element, {Odf::kStyle, "name"}))].shapes;
+                             // Of two with one name the first one counts.
+                             if (shapes != nullptr)
+                                 return;
+                             shapes = std::make_shared<ShapePictures>();
+                             ReadMasterShapes(element, text, *shapes);
+                         });
+                 });
 }
 
 void PictureReader::ReadMasterShapes(pugi::xml_node container, std::string_view text, ShapePictures& shapes)
@@ -245,12 +235,12 @@ void PictureReader::FindImage(pugi::xml_node frame, ShapePicture& shape)
     if (names.Of(frame) != XmlName{Odf::kDraw, "frame"})
         return;
     // The first one is what its author prefers.
-    ForEach(frame, names, {Odf::kDraw, "image"},
-            [&](pugi::xml_node image)
-            {
-                if (shape.image == nullptr)
-                    shape.image = pictures.Find(image, names);
-            });
+    ForEachChild(frame, names, {Odf::kDraw, "image"},
+                 [&](pugi::xml_node image)
+                 {
+                     if (shape.image == nullptr)
+                         shape.image = pictures.Find(image, names);
+                 });
 }
 
 /// Frames hold what can be shown, pictures and text, and what cannot; controls and the like never can.
