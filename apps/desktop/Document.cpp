@@ -138,14 +138,25 @@ bool Document::Open(const std::filesystem::path& file)
     };
     if (!AttemptOnFile(FileWork::Opening, file, read))
         return false;
+    return Attempt([&] { Replace(std::move(opening), file, std::move(newPicture)); });
+}
+
+/// What fails is told when there is a drawing again.
+void Document::Replace(Workbench::Session::OpenedDrawing opening, const std::filesystem::path& file,
+                       ReferenceHost::DrawingPicture newPicture)
+{
     const WaitingPointer waiting;
     End();
-    const bool isOpen = Attempt(
-        [&]
-        { Begin(std::make_unique<Workbench::Session>(std::move(opening)), file, std::move(newPicture)); });
-    if (session == nullptr)
+    try
+    {
+        Begin(std::make_unique<Workbench::Session>(std::move(opening)), file, std::move(newPicture));
+    }
+    catch (const std::exception&)
+    {
+        End();
         BeginBlank();
-    return isOpen;
+        throw;
+    }
 }
 
 bool Document::Save(const std::filesystem::path& target)

@@ -139,6 +139,8 @@ private:
 
     bool Attempt(const std::function<void()>& work);
     bool AttemptOnFile(FileWork work, const std::filesystem::path& file, const FileSteps& steps);
+    void Replace(Workbench::Session::OpenedDrawing opening, const std::filesystem::path& file,
+                 ReferenceHost::DrawingPicture newPicture);
     void Begin(std::unique_ptr<Workbench::Session> newSession, const std::filesystem::path& file,
                ReferenceHost::DrawingPicture newPicture);
     void BeginBlank();
