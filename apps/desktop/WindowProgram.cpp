@@ -69,6 +69,14 @@ bool Begin(MainWindow& window, const WindowOptions& options)
                      [](const QString& message) { WriteLine(std::cerr, message); });
     if (!options.file.isEmpty() && !window.OpenFile(PathFromQString(options.file)))
         return false;
+    const int pages = window.GetCanvas().PageCount();
+    if (options.page > 1 && options.page > pages)
+    {
+        WriteLine(std::cerr, QStringLiteral("--page %1: expected a page of the drawing, which has %2")
+                                 .arg(options.page)
+                                 .arg(pages));
+        return false;
+    }
     window.GetCanvas().SetPage(options.page - 1);
     return options.selector.isEmpty() || window.GetDocument().Select(FromQString(options.selector));
 }
