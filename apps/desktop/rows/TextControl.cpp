@@ -64,8 +64,10 @@ void TextControl::OfferNames()
 
 void TextControl::TakeText()
 {
-    if (std::exchange(isTyped, false) && field->currentText() != shown)
-        emit committed(field->currentText());
+    // Typing what is inherited makes it local. Nothing that was nothing before says nothing.
+    const QString text = field->currentText();
+    if (std::exchange(isTyped, false) && !(text.isEmpty() && shown.isEmpty()))
+        emit committed(text);
 }
 
 } // namespace Desktop

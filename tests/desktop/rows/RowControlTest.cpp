@@ -184,3 +184,33 @@ TEST(RowControl, TellsATextOnlyWhenItWasTyped)
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(committed.count(), 1);
 }
+
+TEST(RowControl, TellsATextThatWasTypedAsItWas)
+{
+    RowDescription row;
+    const auto control = Make(row);
+    control->ShowRow(Showing(row, OvxStringT(L"Serif")));
+    const QSignalSpy committed(control.get(), &RowControl::committed);
+    auto* const field = control->findChild<QLineEdit*>();
+
+    field->selectAll();
+    QTest::keyClicks(field, QStringLiteral("Serif"));
+    QTest::keyClick(field, Qt::Key_Return);
+
+    EXPECT_EQ(committed.count(), 1) << "what is inherited becomes local when it is written";
+}
+
+TEST(RowControl, TellsNothingOfATextThatWasTypedAndTakenBack)
+{
+    RowDescription row;
+    const auto control = Make(row);
+    control->ShowRow(Ambiguous(row));
+    const QSignalSpy committed(control.get(), &RowControl::committed);
+    auto* const field = control->findChild<QLineEdit*>();
+
+    QTest::keyClicks(field, QStringLiteral("S"));
+    QTest::keyClick(field, Qt::Key_Backspace);
+    QTest::keyClick(field, Qt::Key_Return);
+
+    EXPECT_EQ(committed.count(), 0);
+}
