@@ -89,32 +89,25 @@ OvxUtils::Any ParseColour(const OvxStringT& what, const OvxStringT& text,
     return OvxUtils::Any(CLR_COLORSPEC::FromRgb(*colour));
 }
 
-/// A unit, and how many of the value's own scale it is.
-struct UnitScale
-{
-    OvxStringViewT unit;
-    double scale;
-};
-
 constexpr double kHundredthMmPerInch = 2540;
 constexpr double kTenthPointsPerInch = 720;
 
-constexpr UnitScale kLengthUnits[] = {{L"mm", 100},
-                                      {L"cm", 1000},
-                                      {L"in", kHundredthMmPerInch},
-                                      {L"pt", kHundredthMmPerInch / 72},
-                                      {L"px", kHundredthMmPerInch / 96}};
+constexpr RowUnit kLengthUnits[] = {{L"mm", 100},
+                                    {L"cm", 1000},
+                                    {L"in", kHundredthMmPerInch},
+                                    {L"pt", kHundredthMmPerInch / 72},
+                                    {L"px", kHundredthMmPerInch / 96}};
 
-constexpr UnitScale kFontSizeUnits[] = {{L"pt", 10},
-                                        {L"mm", kTenthPointsPerInch / 25.4},
-                                        {L"cm", kTenthPointsPerInch / 2.54},
-                                        {L"in", kTenthPointsPerInch},
-                                        {L"px", kTenthPointsPerInch / 96}};
+constexpr RowUnit kFontSizeUnits[] = {{L"pt", 10},
+                                      {L"mm", kTenthPointsPerInch / 25.4},
+                                      {L"cm", kTenthPointsPerInch / 2.54},
+                                      {L"in", kTenthPointsPerInch},
+                                      {L"px", kTenthPointsPerInch / 96}};
 
-constexpr UnitScale kPercentUnits[] = {{L"%", 1}};
+constexpr RowUnit kPercentUnits[] = {{L"%", 1}};
 
 /// By the number of the kind; empty for kinds that are no numbers.
-std::span<const UnitScale> UnitsOf(ValueKind kind)
+std::span<const RowUnit> UnitsOf(ValueKind kind)
 {
     switch (kind)
     {
@@ -127,11 +120,10 @@ std::span<const UnitScale> UnitsOf(ValueKind kind)
     }
 }
 
-/// The unit that a number without one is in, and that limits are told in.
-OvxStringViewT OwnUnitOf(const RowDescription& row)
+OvxStringViewT UnitNameOf(const RowDescription& row)
 {
     if (!row.range)
-        return UnitsOf(row.kind).front().unit;
+        return UnitsOf(row.kind).front().name;
     switch (row.range->unit)
     {
     case NumberUnit::Millimetre:
@@ -148,10 +140,10 @@ OvxStringViewT OwnUnitOf(const RowDescription& row)
 
 std::optional<double> ScaleOf(ValueKind kind, OvxStringViewT unit)
 {
-    for (const UnitScale& each : UnitsOf(kind))
+    for (const RowUnit& each : UnitsOf(kind))
     {
-        if (each.unit == unit)
-            return each.scale;
+        if (each.name == unit)
+            return each.valuesPerUnit;
     }
     return std::nullopt;
 }
@@ -159,11 +151,11 @@ std::optional<double> ScaleOf(ValueKind kind, OvxStringViewT unit)
 /// A number of the value's own scale in the row's unit: "0.05mm".
 std::string InOwnUnit(const RowDescription& row, int value)
 {
-    const OvxStringViewT unit = OwnUnitOf(row);
-    const double number = value / ScaleOf(row.kind, unit).value_or(1);
+    const RowUnit unit = UnitOf(row);
+    const double number = value / unit.valuesPerUnit;
     std::array<char, 32> text{};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    return std::string(text.data(), end) + OvxUtils::ToUtf8(unit);
+    return std::string(text.data(), end) + OvxUtils::ToUtf8(unit.name);
 }
 
 std::string LimitsOf(const RowDescription& row)
@@ -192,7 +184,7 @@ std::optional<int> ReadNumberValue(const RowDescription& row, const OvxStringT& 
     const auto measure = ParseMeasure(text);
     if (!measure)
         return std::nullopt;
-    const auto scale = ScaleOf(row.kind, measure->unit.empty() ? OwnUnitOf(row) : measure->unit);
+    const auto scale = ScaleOf(row.kind, measure->unit.empty() ? UnitNameOf(row) : measure->unit);
     if (!scale)
         return std::nullopt;
     const auto value = RoundToInt(measure->number * *scale);
@@ -243,6 +235,12 @@ OvxUtils::Any ParseRowValue(const RowDescription& row, const OvxStringT& rowName
         break;
     }
     return OvxUtils::Any(text);
+}
+
+RowUnit UnitOf(const RowDescription& row)
+{
+    const OvxStringViewT name = UnitNameOf(row);
+    return {name, ScaleOf(row.kind, name).value_or(1)};
 }
 
 CLR_COLORSPEC::Rgb ParsePlainColour(const OvxStringT& what, const OvxStringT& text)

@@ -29,6 +29,16 @@ namespace Workbench
 [[nodiscard]] OvxUtils::Any ParseRowValue(const RowDescription& row, const OvxStringT& rowName,
                                           const OvxStringT& text, const ReferenceHost::Drawing& drawing);
 
+/// A unit, and how many of a row's own values make one of it: 100 hundredths of a millimetre for "mm".
+struct RowUnit
+{
+    OvxStringViewT name;
+    double valuesPerUnit = 1;
+};
+
+/// The unit of a row with numbers: that of its range, in which also a number without one is read.
+[[nodiscard]] RowUnit UnitOf(const RowDescription& row);
+
 /// Reads a colour as ParseRowValue() does, but no reference to the palette.
 ///
 /// @param what what the colour is for, for errors.
