@@ -84,7 +84,7 @@ MainWindow::~MainWindow()
     document.disconnect();
     delete panelDock;
     delete editedDock;
-    canvas->ShowDrawing(nullptr);
+    canvas->ShowNothing();
 }
 
 void MainWindow::SetAttended(bool isSomebodyThere) noexcept

@@ -139,7 +139,7 @@ void MainWindow::MakeStatusBar()
 
 void MainWindow::Connect()
 {
-    connect(&document, &Document::closing, this, [this] { canvas->ShowDrawing(nullptr); });
+    connect(&document, &Document::closing, this, [this] { canvas->ShowNothing(); });
     connect(&document, &Document::opened, this, &MainWindow::ShowOpened);
     connect(&document, &Document::changed, canvas, &CanvasWidget::RefreshStyles);
     connect(&document, &Document::previewed, canvas, &CanvasWidget::RefreshStyles);

@@ -5,8 +5,7 @@
 #include "apps/desktop/canvas/CanvasAccess.h"
 #include "apps/desktop/canvas/CanvasState.h"
 #include "apps/desktop/painting/PaintHandles.h"
-#include "apps/workbench/Session.h"
-#include "reference_host/document/Drawing.h"
+#include "reference_host/document/DrawingObject.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -50,19 +49,15 @@ CanvasWidget::CanvasWidget(QWidget* parent) : QWidget(parent), state(std::make_u
 
 CanvasWidget::~CanvasWidget() = default;
 
-void CanvasWidget::ShowDrawing(Workbench::Session* session)
+void CanvasWidget::ShowNothing()
 {
     state = std::make_unique<State>();
     update();
-    if (session == nullptr)
-        return;
-    ShowPicture(session->GetDrawing().ReadPicture());
 }
 
 void CanvasWidget::ShowPicture(ReferenceHost::DrawingPicture picture)
 {
-    state = std::make_unique<State>();
-    update();
+    ShowNothing();
     state->drawing = std::make_unique<ShownDrawing>(std::move(picture));
     SetPage(0);
     ZoomToPage();

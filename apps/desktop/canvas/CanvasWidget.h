@@ -16,11 +16,6 @@ namespace ReferenceHost
 struct DrawingPicture;
 }
 
-namespace Workbench
-{
-class Session;
-}
-
 namespace Desktop
 {
 
@@ -45,17 +40,15 @@ public:
     explicit CanvasWidget(QWidget* parent = nullptr);
     ~CanvasWidget() override;
 
-    /// Shows the first page of the session's drawing, with nothing selected and the whole page in view; with
-    /// null nothing. Borrowed until the next call.
-    ///
-    /// @throws ReferenceHost::DocumentError when the file can no longer be read; nothing is shown then.
-    void ShowDrawing(Workbench::Session* session);
+    /// Shows no drawing.
+    void ShowNothing();
 
-    /// The same of a drawing whose picture has been read already.
+    /// Shows the first page of a drawing, with nothing selected and the whole page in view. The drawing that
+    /// the picture was read from is borrowed until the next call or that of ShowNothing().
     void ShowPicture(ReferenceHost::DrawingPicture picture);
 
     /// Marks these objects as the selected ones, without telling anybody. Groups may be among them; null may
-    /// not. Borrowed until the next call or that of ShowDrawing().
+    /// not. Borrowed until the next call or that of ShowNothing().
     void SetSelectedObjects(const std::vector<ReferenceHost::DrawingObject*>& objects);
 
     /// What is selected, by the names of the objects, or by kind and id where they have none. Long lists are

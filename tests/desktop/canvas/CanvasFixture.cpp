@@ -2,6 +2,7 @@
 
 #include "host/utils/Utf8.h"
 #include "reference_host/document/DrawingObject.h"
+#include "reference_host/document/picture/DrawingPicture.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -18,7 +19,7 @@ CanvasTest::CanvasTest()
 
 CanvasTest::~CanvasTest()
 {
-    canvas.ShowDrawing(nullptr);
+    canvas.ShowNothing();
 }
 
 void CanvasTest::Show(const FlatDrawing& drawing)
@@ -28,11 +29,11 @@ void CanvasTest::Show(const FlatDrawing& drawing)
 
 void CanvasTest::ShowText(const std::string& text)
 {
-    canvas.ShowDrawing(nullptr);
+    canvas.ShowNothing();
     session.reset();
     session = std::make_unique<Workbench::Session>(folder.Write("shown.fodg", text),
                                                    std::vector<Workbench::PanelDescription>());
-    canvas.ShowDrawing(session.get());
+    canvas.ShowPicture(session->GetDrawing().ReadPicture());
 }
 
 void CanvasTest::ShowShapes(const std::string& shapes)
