@@ -20,6 +20,11 @@ using Lines = std::vector<std::string>;
 [[nodiscard]] Lines AnswersOf(DrivenPanel& panel, const CallLog& names);
 [[nodiscard]] Lines AnswersOf(PlainPanel& panel);
 
+/// What the default styles hold, which the library itself writes to, and the one that the sheet of defaults
+/// lists.
+[[nodiscard]] Lines StyleLines(const LibraryWorld& world);
+[[nodiscard]] Lines StyleLines(const PlainWorld& world);
+
 /// What the dialog of presets shows.
 [[nodiscard]] Lines DialogAnswers(const LibraryWorld& world);
 [[nodiscard]] Lines DialogAnswers(const PlainWorld& world);

@@ -11,17 +11,6 @@ namespace LibraryModel
 namespace
 {
 
-Operation SetIdentifier(Dice& dice)
-{
-    const std::size_t panel = AnyPanel(dice);
-    const std::string identifier = AnyIdentifier(dice);
-    return Do(
-        PanelText(panel) + "Write(\"ActiveIdentifier\", " + Quoted(identifier) + ");",
-        [=](LibraryWorld& world)
-        { world.Panel(panel).Write<OvxStringT>(L"ActiveIdentifier", ToHost(identifier)); },
-        [=](PlainWorld& world) { world.panels[panel]->SetActiveIdentifier(identifier); });
-}
-
 Operation AskForState(Dice& dice)
 {
     const std::size_t panel = AnyPanel(dice);
@@ -192,6 +181,17 @@ Operation SetNoParent(Dice& dice)
 }
 
 } // namespace
+
+Operation SetIdentifier(Dice& dice)
+{
+    const std::size_t panel = AnyPanel(dice);
+    const std::string identifier = AnyIdentifier(dice);
+    return Do(
+        PanelText(panel) + "Write(\"ActiveIdentifier\", " + Quoted(identifier) + ");",
+        [=](LibraryWorld& world)
+        { world.Panel(panel).Write<OvxStringT>(L"ActiveIdentifier", ToHost(identifier)); },
+        [=](PlainWorld& world) { world.panels[panel]->SetActiveIdentifier(identifier); });
+}
 
 const Makers& CommandMakers()
 {

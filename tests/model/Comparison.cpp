@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <functional>
 #include <iterator>
 #include <sstream>
 
@@ -33,13 +34,19 @@ struct Seen
 {
     Lines lines;
 
-    void Add(const Lines& more) { lines.insert(lines.end(), more.begin(), more.end()); }
+    void Add(Lines more) { std::ranges::move(more, std::back_inserter(lines)); }
 };
 
 /// Both sides of one run, with how much lived before them.
 class Run
 {
 public:
+    Run()
+    {
+        model.liesBefore = [this](const StyleRef& left, const StyleRef& right)
+        { return std::less<const Styles::Style*>()(library.Find(left), library.Find(right)); };
+    }
+
     std::optional<std::string> Compare(const Operation& operation)
     {
         if (operation.isAllowed && !operation.isAllowed(model))
@@ -99,6 +106,8 @@ private:
             actual.Add(AnswersOf(library.Panel(i), library.log));
             TakeLines(expected, actual);
         }
+        expected.Add(StyleLines(model));
+        actual.Add(StyleLines(library));
         expected.Add(DialogAnswers(model));
         actual.Add(DialogAnswers(library));
     }

@@ -95,7 +95,7 @@ Operation SwitchTransaction(Dice& dice)
 
 Operation SwitchCharacterStyles(Dice& dice)
 {
-    const bool ignored = dice.Percent(50);
+    const bool ignored = dice.Percent(75);
     return ShowOrHide(
         "source.ignoresCharacterStyleSiblings", ignored,
         [=](LibraryWorld& world) { world.source.ignoresCharacterStyleSiblings = ignored; },
@@ -264,6 +264,8 @@ Operation StartPanelAnew(Dice& dice)
         [=](PlainWorld& world) { world.StartPanelAnew(panel, ContextOf(world, context)); });
 }
 
+} // namespace
+
 Operation ChangeCategory(Dice& dice)
 {
     const std::size_t panel = AnyPanel(dice);
@@ -274,14 +276,12 @@ Operation ChangeCategory(Dice& dice)
         [=](PlainWorld& world) { world.panels[panel]->category = category; });
 }
 
-} // namespace
-
 const Makers& HostMakers()
 {
     static const Makers makers = {{1, SwitchApplication},  {1, SwitchStylesApp},
                                   {2, SwitchSource},       {2, SwitchSheet},
                                   {1, SwitchDefaultSheet}, {1, SwitchModifier},
-                                  {1, SwitchTransaction},  {1, SwitchCharacterStyles},
+                                  {1, SwitchTransaction},  {2, SwitchCharacterStyles},
                                   {1, SwitchItemFilling},  {1, SwitchUserInterface},
                                   {1, SetAnswer},          {2, SwitchObjectPropertiesContext},
                                   {1, SetClearedPaths},    {1, SetTargetPath},

@@ -8,20 +8,38 @@ namespace LibraryModel
 namespace
 {
 
-const std::vector<const wchar_t*>& NumberNames()
+/// A bound name with the heading under which its value is told.
+struct Heading
 {
-    static const std::vector<const wchar_t*> names = {
-        L"RevertToParentEnable", L"BreakColorResourceEnable",
-        L"ApplyToParentEnable",  L"CreateStyleFromEnable",
-        L"IsObjectStyle",        L"IsStyle",
-        L"IsStyleOrDefault",     L"EditStyleEnable",
-        L"IsObjectProperties",   L"BaseStylePropertiesDatasourceOkEnabled",
-        L"EnableStyleEditing",   L"AddPresetEnabled"};
-    return names;
+    explicit Heading(const wchar_t* bound) : name(bound), text(Describe(name) + ": ") {}
+
+    OvxStringT name;
+    std::string text;
+};
+
+const std::vector<Heading>& NumberHeadings()
+{
+    static const std::vector<Heading> headings = {
+        Heading(L"RevertToParentEnable"), Heading(L"BreakColorResourceEnable"),
+        Heading(L"ApplyToParentEnable"),  Heading(L"CreateStyleFromEnable"),
+        Heading(L"IsObjectStyle"),        Heading(L"IsStyle"),
+        Heading(L"IsStyleOrDefault"),     Heading(L"EditStyleEnable"),
+        Heading(L"IsObjectProperties"),   Heading(L"BaseStylePropertiesDatasourceOkEnabled"),
+        Heading(L"EnableStyleEditing"),   Heading(L"AddPresetEnabled"),
+        Heading(L"DeletePresetEnabled")};
+    return headings;
+}
+
+const std::vector<Heading>& TextHeadings()
+{
+    static const std::vector<Heading> headings = {
+        Heading(L"ActiveIdentifier"), Heading(L"SectionTitle"), Heading(L"RevertToMenuString"),
+        Heading(L"ApplyToMenuString"), Heading(L"EditStyleMenuString")};
+    return headings;
 }
 
 /// A number, or that reading it failed as it must for what is no colour.
-std::string ReadNumber(const DrivenPanel& panel, const wchar_t* name)
+std::string ReadNumber(const DrivenPanel& panel, const OvxStringT& name)
 {
     try
     {
@@ -84,23 +102,28 @@ Lines AnswersOf(DrivenPanel& panel, const CallLog& names)
 {
     Lines answers;
     AddTargetAnswers(panel, names, answers);
-    answers.push_back("ActiveIdentifier: " + Describe(panel.Read<OvxStringT>(L"ActiveIdentifier")));
-    for (const wchar_t* name : NumberNames())
-        answers.push_back(Describe(OvxStringT(name)) + ": " + ReadNumber(panel, name));
+    for (const Heading& heading : NumberHeadings())
+        answers.push_back(heading.text + ReadNumber(panel, heading.name));
     const bool isUnanswered = panel.Read<OvxUtils::Any>(L"PropertyIcon").IsEmpty() &&
                               panel.Read<OvxUtils::Any>(L"PropertyTooltip").IsEmpty();
     answers.push_back("PropertyIcon: " + AskBy(panel, L"PropertyIcon") + DescribeFlag(isUnanswered));
     answers.push_back("PropertyTooltip: " + AskBy(panel, L"PropertyTooltip"));
-    for (const wchar_t* name :
-         {L"SectionTitle", L"RevertToMenuString", L"ApplyToMenuString", L"EditStyleMenuString"})
-        answers.push_back(Describe(OvxStringT(name)) + ": " + Describe(panel.Read<OvxStringT>(name)));
+    for (const Heading& heading : TextHeadings())
+        answers.push_back(heading.text + Describe(panel.Read<OvxStringT>(heading.name)));
     answers.push_back("ApplyStyleResource: " + std::to_string(panel.Read<unsigned>(L"ApplyStyleResource")));
     answers.push_back("CurrentListStyleItem: " + TextOf(panel.Read<WXmlNode>(L"CurrentListStyleItem")));
     answers.push_back("PropertyPanelStateIdentifier: " +
                       Describe(panel.Read<WCmnUI_Guid>(L"PropertyPanelStateIdentifier").GetText()));
-    answers.push_back("DeletePresetEnabled: " + ReadNumber(panel, L"DeletePresetEnabled"));
     answers.push_back("CurrentPreset: " + TextOf(panel.Read<WCmnUI_ListItem>(L"CurrentPreset")));
     return answers;
+}
+
+Lines StyleLines(const LibraryWorld& world)
+{
+    Lines lines;
+    for (const char* name : {"S2", "S3", "S4", "S5"})
+        lines.push_back(name + (": " + Describe(world.Find(StyleRef{name, std::nullopt}))));
+    return lines;
 }
 
 Lines DialogAnswers(const LibraryWorld& world)

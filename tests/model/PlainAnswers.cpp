@@ -44,6 +44,7 @@ void AddNumbers(PlainPanel& panel, Lines& answers)
     add("BaseStylePropertiesDatasourceOkEnabled", panel.currentListItem.tree != nullptr ? 1 : 0);
     add("EnableStyleEditing", panel.GetEnableStyleEditing());
     add("AddPresetEnabled", panel.IsAddPresetEnabled());
+    add("DeletePresetEnabled", panel.IsDeletePresetEnabled());
 }
 
 } // namespace
@@ -66,10 +67,10 @@ Lines AnswersOf(PlainPanel& panel)
 {
     Lines answers;
     AddTargetAnswers(panel, answers);
-    answers.push_back("ActiveIdentifier: " + panel.activeIdentifier);
     AddNumbers(panel, answers);
     answers.push_back("PropertyIcon: " + panel.PropertyIcon(panel.activeIdentifier) + Tell(true));
     answers.push_back("PropertyTooltip: " + panel.PropertyTooltip(panel.activeIdentifier));
+    answers.push_back("ActiveIdentifier: " + panel.activeIdentifier);
     answers.push_back("SectionTitle: " + panel.GetSectionTitle());
     answers.push_back("RevertToMenuString: " + panel.MenuString("f6dd6f91-646d-4758-ba17-db358538fa3e"));
     answers.push_back("ApplyToMenuString: " + panel.MenuString("6d36d862-aac1-4e48-a9eb-2ac57f1862b1"));
@@ -77,9 +78,16 @@ Lines AnswersOf(PlainPanel& panel)
     answers.push_back("ApplyStyleResource: 0");
     answers.push_back("CurrentListStyleItem: " + panel.currentListItem.Text());
     answers.push_back("PropertyPanelStateIdentifier: " + panel.GetPropertyPanelStateIdentifier());
-    answers.push_back("DeletePresetEnabled: " + std::to_string(panel.IsDeletePresetEnabled()));
     answers.push_back("CurrentPreset: " + TextOf(panel.GetCurrentPreset()));
     return answers;
+}
+
+Lines StyleLines(const PlainWorld& world)
+{
+    Lines lines;
+    for (const char* name : {"S2", "S3", "S4", "S5"})
+        lines.push_back(name + (": " + Tell(world.Find(StyleRef{name, std::nullopt}))));
+    return lines;
 }
 
 Lines DialogAnswers(const PlainWorld& world)

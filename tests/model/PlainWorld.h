@@ -3,6 +3,7 @@
 #include "tests/model/PlainPanel.h"
 #include "tests/model/StylePool.h"
 
+#include <functional>
 #include <memory>
 
 namespace LibraryModel
@@ -33,6 +34,9 @@ public:
 
     /// Whether a style may become the parent of another: it stands earlier in the pool.
     [[nodiscard]] static bool MayInherit(const StyleRef& child, const StyleRef& parent);
+
+    /// Which of two styles the host's memory holds first: the order of maps by style.
+    std::function<bool(const StyleRef&, const StyleRef&)> liesBefore;
 
     PlainHost host;
     std::vector<std::unique_ptr<PlainStyle>> styles; ///< As in the pool.

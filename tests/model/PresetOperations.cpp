@@ -24,16 +24,6 @@ std::string AnyPresetCategory(Dice& dice)
     return dice.One(categories);
 }
 
-Operation OfferPresets(Dice& dice)
-{
-    const std::size_t panel = AnyPanel(dice);
-    const std::string category = dice.Percent(15) ? "" : AnyPresetCategory(dice);
-    return Do(
-        PanelText(panel) + "presetCategory = " + Quoted(category) + ";",
-        [=](LibraryWorld& world) { world.Panel(panel).presetCategory = ToHost(category); },
-        [=](PlainWorld& world) { world.panels[panel]->presetCategory = category; });
-}
-
 Operation OpenPresets(Dice& dice)
 {
     const std::size_t panel = AnyPanel(dice);
@@ -115,6 +105,28 @@ Operation AcceptPreset(Dice& /*dice*/)
         [](PlainWorld& world) { world.dialog.OnOk(); });
 }
 
+/// The dialog from beginning to end, for a name that may be taken.
+Operation AddNamedPreset(Dice& dice)
+{
+    const std::size_t panel = AnyPanel(dice);
+    const std::string name = AnyPresetName(dice);
+    return Do(
+        PanelText(panel) + "OnAddPreset(), then dialog.SetAddPresetName(" + Quoted(name) +
+            ") and OnAddPresetOk();",
+        [=](LibraryWorld& world)
+        {
+            world.Panel(panel).OnAddPreset();
+            world.Dialog().Write<OvxStringT>(L"AddPresetName", ToHost(name));
+            world.Dialog().Invoke(L"OnAddPresetOk");
+        },
+        [=](PlainWorld& world)
+        {
+            world.panels[panel]->OnAddPreset();
+            world.dialog.SetName(name);
+            world.dialog.OnOk();
+        });
+}
+
 /// These do nothing, by name.
 Operation InvokeIdleCommand(Dice& dice)
 {
@@ -155,12 +167,23 @@ Operation DropPresetElsewhere(Dice& dice)
 
 } // namespace
 
+Operation OfferPresets(Dice& dice)
+{
+    const std::size_t panel = AnyPanel(dice);
+    const std::string category = dice.Percent(15) ? "" : AnyPresetCategory(dice);
+    return Do(
+        PanelText(panel) + "presetCategory = " + Quoted(category) + ";",
+        [=](LibraryWorld& world) { world.Panel(panel).presetCategory = ToHost(category); },
+        [=](PlainWorld& world) { world.panels[panel]->presetCategory = category; });
+}
+
 const Makers& PresetMakers()
 {
-    static const Makers makers = {{3, OfferPresets},      {4, OpenPresets},         {4, PickPreset},
-                                  {3, AddPreset},         {3, DeletePreset},        {1, SelectNoPreset},
-                                  {1, TellOfPresets},     {2, NamePreset},          {4, AcceptPreset},
-                                  {1, InvokeIdleCommand}, {2, KeepPresetElsewhere}, {1, DropPresetElsewhere}};
+    static const Makers makers = {{3, OfferPresets},       {4, OpenPresets},       {7, PickPreset},
+                                  {3, AddPreset},          {3, DeletePreset},      {1, SelectNoPreset},
+                                  {1, TellOfPresets},      {2, NamePreset},        {2, AcceptPreset},
+                                  {4, AddNamedPreset},     {1, InvokeIdleCommand}, {2, KeepPresetElsewhere},
+                                  {1, DropPresetElsewhere}};
     return makers;
 }
 

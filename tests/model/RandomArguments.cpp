@@ -51,7 +51,7 @@ StyleRef AnyStyle(Dice& dice)
     if (dice.Percent(4))
         return {};
     StyleRef ref = AnyPooledStyle(dice);
-    if (dice.Percent(ref.name.front() == 'S' ? 60 : 10))
+    if (dice.Percent(ref.name.front() == 'S' ? 60 : ref.name.front() == 'C' ? 40 : 10))
         ref.substyle = AnyCategory(dice);
     return ref;
 }

@@ -19,7 +19,7 @@ constexpr std::array<WeightedGroup, 8> kGroups = {{{26, TargetMakers},
                                                    {20, WritingMakers},
                                                    {14, CommandMakers},
                                                    {12, ListMakers},
-                                                   {6, PresetMakers},
+                                                   {8, PresetMakers},
                                                    {9, HostMakers},
                                                    {3, SheetMakers}}};
 
@@ -37,11 +37,29 @@ const auto& OneByWeight(Dice& dice, const Choices& choices)
     return *chosen;
 }
 
+/// What differs from sequence to sequence from the start: parents, categories, and what panels are about.
+const Makers& OpeningMakers()
+{
+    static const Makers makers = {{14, SetParent},
+                                  {3, ChangeCategory},
+                                  {3, SetIdentifier},
+                                  {2, OfferPresets},
+                                  {1, MoveToExternalSheet}};
+    return makers;
+}
+
+constexpr std::size_t kOpeningSteps = 25;
+
 } // namespace
 
 Sequence RandomSequence(Dice& dice, std::size_t steps)
 {
     Sequence sequence = Preparation();
+    for (std::size_t step = 0; step < kOpeningSteps; ++step)
+    {
+        sequence.push_back(OneByWeight(dice, OpeningMakers()).make(dice));
+        sequence.back().isRead = false;
+    }
     for (std::size_t step = 0; step < steps; ++step)
     {
         const Makers& makers = OneByWeight(dice, kGroups).makers();

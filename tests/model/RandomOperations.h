@@ -32,10 +32,18 @@ using Makers = std::vector<WeightedMaker>;
 [[nodiscard]] const Makers& HostMakers();    ///< Host pieces that go missing and come back.
 [[nodiscard]] const Makers& SheetMakers();   ///< What lies in sheets.
 
+// Steps that sequences begin with as well
+
+[[nodiscard]] Operation ChangeCategory(Dice& dice);
+[[nodiscard]] Operation MoveToExternalSheet(Dice& dice);
+[[nodiscard]] Operation OfferPresets(Dice& dice);
+[[nodiscard]] Operation SetIdentifier(Dice& dice);
+[[nodiscard]] Operation SetParent(Dice& dice);
+
 /// Steps that give both sides something to work with.
 [[nodiscard]] Sequence Preparation();
 
-/// The preparation and that many random steps.
+/// The preparation, some more of its kind by chance, and that many random steps.
 [[nodiscard]] Sequence RandomSequence(Dice& dice, std::size_t steps);
 
 } // namespace LibraryModel

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <iostream>
 
@@ -15,7 +16,14 @@ using namespace LibraryModel;
 namespace
 {
 
+/// Sequences start anew after so many steps.
 constexpr std::size_t kStepsOfASequence = 200;
+
+/// A run is shared out, so that the parts can run side by side.
+constexpr std::size_t kParts = 4;
+
+/// The seeds of one part lie so far from those of the next.
+constexpr std::uint64_t kSeedsOfAPart = 1'000'000;
 
 /// A number that the environment gives, or else the one that every ordinary run uses.
 std::uint64_t Setting(const char* name, std::uint64_t ordinary)
@@ -30,19 +38,27 @@ std::string Report(const Sequence& failing, std::uint64_t seed)
     const Sequence shortest = Shrink(failing, fails);
     const std::optional<Discrepancy> last = FindDiscrepancy(shortest);
     return "seed " + std::to_string(seed) + ": the library and its model differ after\n" + TextOf(shortest) +
-           (last.has_value() ? last->message : "and agree when it is run once more");
+           (last.has_value() ? last->message : "    and agree when it is run once more");
 }
+
+std::string NameOfPart(const testing::TestParamInfo<std::size_t>& part)
+{
+    static const std::array<const char*, kParts> names = {"First", "Second", "Third", "Fourth"};
+    return names.at(part.param);
+}
+
+class RandomOperations : public testing::TestWithParam<std::size_t>
+{
+};
 
 } // namespace
 
-TEST(RandomOperations, LeaveTheLibraryAsItsModelExpects)
+TEST_P(RandomOperations, LeaveTheLibraryAsItsModelExpects)
 {
-    const std::uint64_t steps = Setting("STYLEPROPERTIES_MODEL_STEPS", 20'000);
-    const std::uint64_t firstSeed = Setting("STYLEPROPERTIES_MODEL_SEED", 1);
-    std::cout << steps << " random steps from seed " << firstSeed << " on\n";
-    RecordProperty("seed", std::to_string(firstSeed));
+    const std::uint64_t steps = Setting("STYLEPROPERTIES_MODEL_STEPS", 20'000) / kParts;
+    std::uint64_t seed = Setting("STYLEPROPERTIES_MODEL_SEED", 1) + GetParam() * kSeedsOfAPart;
+    std::cout << steps << " random steps from seed " << seed << " on\n";
 
-    std::uint64_t seed = firstSeed;
     for (std::uint64_t done = 0; done < steps; done += kStepsOfASequence, ++seed)
     {
         Dice dice(seed);
@@ -54,3 +70,5 @@ TEST(RandomOperations, LeaveTheLibraryAsItsModelExpects)
         }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(InParts, RandomOperations, testing::Range<std::size_t>(0, kParts), NameOfPart);

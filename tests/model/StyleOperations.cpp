@@ -42,28 +42,6 @@ Operation SetValueAtPath(Dice& dice)
         [=](PlainWorld& world) { world.Find(ref)->StoreAt(path, value); });
 }
 
-Operation SetParent(Dice& dice)
-{
-    const StyleRef child = AnyStyle(dice);
-    StyleRef parent = AnyStyle(dice);
-    if (child.substyle.has_value() && dice.Percent(70))
-        parent.substyle = child.substyle;
-    Operation made = Do(
-        child.Text() + ".SetParent(" + parent.Text() + ");",
-        [=](LibraryWorld& world)
-        {
-            if (Styles::Style* style = world.Find(child))
-                style->SetParent(world.Find(parent));
-        },
-        [=](PlainWorld& world)
-        {
-            if (PlainStyle* style = world.Find(child))
-                style->parent = world.Find(parent);
-        });
-    made.isAllowed = [=](const PlainWorld&) { return PlainWorld::MayInherit(child, parent); };
-    return made;
-}
-
 Operation MakeSubstyle(Dice& dice)
 {
     const StyleRef ref = AnyPooledStyle(dice);
@@ -91,6 +69,8 @@ Operation RemoveSubstyle(Dice& dice)
     return made;
 }
 
+} // namespace
+
 Operation MoveToExternalSheet(Dice& dice)
 {
     const StyleRef ref = AnyPooledStyle(dice);
@@ -107,12 +87,32 @@ Operation MoveToExternalSheet(Dice& dice)
         });
 }
 
-} // namespace
+Operation SetParent(Dice& dice)
+{
+    const StyleRef child = AnyStyle(dice);
+    StyleRef parent = AnyStyle(dice);
+    if (child.substyle.has_value() && dice.Percent(70))
+        parent.substyle = child.substyle;
+    Operation made = Do(
+        child.Text() + ".SetParent(" + parent.Text() + ");",
+        [=](LibraryWorld& world)
+        {
+            if (Styles::Style* style = world.Find(child))
+                style->SetParent(world.Find(parent));
+        },
+        [=](PlainWorld& world)
+        {
+            if (PlainStyle* style = world.Find(child))
+                style->parent = world.Find(parent);
+        });
+    made.isAllowed = [=](const PlainWorld&) { return PlainWorld::MayInherit(child, parent); };
+    return made;
+}
 
 const Makers& StyleMakers()
 {
     static const Makers makers = {{8, SetValue},     {4, SetValueAtPath}, {7, SetParent},
-                                  {2, MakeSubstyle}, {4, RemoveSubstyle}, {1, MoveToExternalSheet}};
+                                  {2, MakeSubstyle}, {4, RemoveSubstyle}, {2, MoveToExternalSheet}};
     return makers;
 }
 

@@ -4,6 +4,9 @@
 #include "tests/model/RandomArguments.h"
 #include "tests/model/RandomOperations.h"
 
+#include <algorithm>
+#include <map>
+
 namespace LibraryModel
 {
 
@@ -49,52 +52,87 @@ Operation SetTargetsByKey(Dice& dice)
         { world.panels[panel]->SetTargetStyle(world.Find(refs), false, {key}, forced); });
 }
 
-/// The entries of an object map in the order of the library's addresses, which both sides are to see alike:
-/// the pool's own order, and substyles, whose addresses are chance, only alone.
+/// Styles with the numbers of the objects that own them.
 using ObjectEntries = std::vector<std::pair<StyleRef, std::size_t>>;
 
-ObjectEntries AnyObjects(Dice& dice)
+ObjectEntries ObjectsOf(Dice& dice, const StyleRefs& refs)
 {
-    if (dice.Percent(25))
-        return {{{"S" + std::to_string(dice.Below(6)), KeyOf("fill")}, 1 + dice.Below(3)}};
-    std::map<std::size_t, std::size_t> objects;
-    while (dice.Percent(65))
-        objects[dice.Percent(70) ? PoolIndex("S" + std::to_string(dice.Below(6)))
-                                 : PoolIndex(AnyPooledStyle(dice).name)] = 1 + dice.Below(3);
     ObjectEntries entries;
-    for (const auto& [place, object] : objects)
-        entries.push_back({{StylePool()[place].name, std::nullopt}, object});
+    for (const StyleRef& ref : refs)
+    {
+        if (!dice.Percent(15))
+            entries.emplace_back(ref, 1 + dice.Below(3));
+    }
     return entries;
+}
+
+std::string TextOf(const ObjectEntries& entries)
+{
+    std::vector<std::string> texts;
+    for (const auto& [ref, object] : entries)
+        texts.push_back("{" + ref.Text() + ", " + std::to_string(object) + "}");
+    return "SetObjectStyles({" + Join(texts, ", ") + "});";
+}
+
+void HandObjects(LibraryWorld& world, std::size_t panel, const ObjectEntries& entries)
+{
+    std::map<Styles::Style*, std::size_t> objects;
+    for (const auto& [ref, object] : entries)
+    {
+        if (Styles::Style* style = world.Find(ref))
+            objects.emplace(style, object);
+    }
+    world.Panel(panel).SetObjectStyles(objects);
+}
+
+void HandObjects(PlainWorld& world, std::size_t panel, ObjectEntries entries)
+{
+    std::ranges::stable_sort(entries, [&world](const auto& left, const auto& right)
+                             { return world.liesBefore(left.first, right.first); });
+    std::vector<std::pair<PlainStyle*, std::size_t>> objects;
+    for (const auto& [ref, object] : entries)
+    {
+        PlainStyle* style = world.Find(ref);
+        if (style != nullptr && (objects.empty() || objects.back().first != style))
+            objects.emplace_back(style, object);
+    }
+    world.panels[panel]->SetObjectStyles(objects);
 }
 
 Operation SetObjects(Dice& dice)
 {
     const std::size_t panel = AnyPanel(dice);
-    const ObjectEntries entries = AnyObjects(dice);
-    std::vector<std::string> texts;
-    for (const auto& [ref, object] : entries)
-        texts.push_back("{" + ref.Text() + ", " + std::to_string(object) + "}");
+    const ObjectEntries entries = ObjectsOf(dice, AnyStyles(dice));
     return Do(
-        PanelText(panel) + "SetObjectStyles({" + Join(texts, ", ") + "});",
+        PanelText(panel) + TextOf(entries), [=](LibraryWorld& world) { HandObjects(world, panel, entries); },
+        [=](PlainWorld& world) { HandObjects(world, panel, entries); });
+}
+
+/// What a host does for a new selection: the objects, several styles of one among them, and their styles.
+Operation SelectObjects(Dice& dice)
+{
+    const std::size_t panel = AnyPanel(dice);
+    StyleRefs refs = AnyStyles(dice);
+    const std::string whole = "S" + std::to_string(dice.Below(6));
+    for (const std::optional<Key> substyle :
+         {std::optional<Key>(), std::optional(KeyOf("fill")), std::optional(KeyOf("outline"))})
+    {
+        if (dice.Percent(50))
+            refs.insert(refs.begin() + static_cast<std::ptrdiff_t>(dice.Below(refs.size() + 1)),
+                        StyleRef{whole, substyle});
+    }
+    const ObjectEntries entries = ObjectsOf(dice, refs);
+    return Do(
+        PanelText(panel) + TextOf(entries) + " then SetTargetStyle(" + TextOf(refs) + ", false, (), {});",
         [=](LibraryWorld& world)
         {
-            std::map<Styles::Style*, std::size_t> objects;
-            for (const auto& [ref, object] : entries)
-            {
-                if (Styles::Style* style = world.Find(ref))
-                    objects[style] = object;
-            }
-            world.Panel(panel).SetObjectStyles(objects);
+            HandObjects(world, panel, entries);
+            world.Panel(panel).SetTargetStyle(world.Find(refs), false, Styles::PropertyPath(), {});
         },
         [=](PlainWorld& world)
         {
-            std::vector<std::pair<PlainStyle*, std::size_t>> objects;
-            for (const auto& [ref, object] : entries)
-            {
-                if (PlainStyle* style = world.Find(ref))
-                    objects.emplace_back(style, object);
-            }
-            world.panels[panel]->SetObjectStyles(objects);
+            HandObjects(world, panel, entries);
+            world.panels[panel]->SetTargetStyle(world.Find(refs), false, {}, {});
         });
 }
 
@@ -191,10 +229,10 @@ Operation AskForTarget(Dice& dice)
 
 const Makers& TargetMakers()
 {
-    static const Makers makers = {{14, SetTargets},     {2, SetTargetsByKey}, {4, SetObjects},
-                                  {1, ClearObjects},    {1, AskForObject},    {4, TieSibling},
-                                  {2, UntieSibling},    {1, ForceMore},       {1, ForceNothing},
-                                  {2, AskForAgreement}, {2, AskForTarget}};
+    static const Makers makers = {{14, SetTargets},   {2, SetTargetsByKey}, {2, SetObjects},
+                                  {6, SelectObjects}, {1, ClearObjects},    {1, AskForObject},
+                                  {4, TieSibling},    {2, UntieSibling},    {1, ForceMore},
+                                  {1, ForceNothing},  {2, AskForAgreement}, {2, AskForTarget}};
     return makers;
 }
 

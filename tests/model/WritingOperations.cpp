@@ -59,9 +59,8 @@ Operation HandInChange(Dice& dice)
 }
 
 /// The values' own paths, or others; both in either list.
-Operation RouteChange(Dice& dice)
+Operation RouteChangeOf(Dice& dice, std::size_t panel)
 {
-    const std::size_t panel = AnyPanel(dice);
     const ChangeRecipe change = AnyChange(dice);
     Paths paths = AnyPaths(dice);
     std::optional<Paths> overrides = MaybePaths(dice);
@@ -81,6 +80,16 @@ Operation RouteChange(Dice& dice)
         },
         [=](PlainWorld& world)
         { world.panels[panel]->ModifyStyles(paths, change.ForModel(), Pointer(overrides)); });
+}
+
+Operation RouteChange(Dice& dice)
+{
+    return RouteChangeOf(dice, AnyPanel(dice));
+}
+
+StyleRefs DefaultStyleRefs()
+{
+    return {{"S4", std::nullopt}, {"S5", std::nullopt}};
 }
 
 Operation ModifySubstyles(Dice& dice)
@@ -158,6 +167,40 @@ Operation EndGroup(Dice& dice)
         [=](PlainWorld& world) { world.panels[panel]->EndGroupModify(commit); });
 }
 
+/// A whole drag on the default styles: targets, a group, changes that write the same paths in either way, and
+/// its end.
+Operation DragOnDefaultStyles(Dice& dice)
+{
+    const std::size_t panel = AnyPanel(dice);
+    const bool commit = dice.Percent(80);
+    std::vector<Operation> steps;
+    while (steps.empty() || dice.Percent(40))
+        steps.push_back(RouteChangeOf(dice, panel));
+    std::string text =
+        PanelText(panel) + "SetTargetStyle({S4, S5}, /*isDefault=*/true, (), {}); StartGroupModify(); ";
+    for (const Operation& step : steps)
+        text += step.text + " ";
+    return Do(
+        text + "EndGroupModify(" + Tell(commit) + ");",
+        [=](LibraryWorld& world)
+        {
+            world.Panel(panel).SetTargetStyle(world.Find(DefaultStyleRefs()), true, Styles::PropertyPath(),
+                                              {});
+            world.Panel(panel).StartGroupModify();
+            for (const Operation& step : steps)
+                static_cast<void>(step.onLibrary(world));
+            world.Panel(panel).EndGroupModify(commit);
+        },
+        [=](PlainWorld& world)
+        {
+            world.panels[panel]->SetTargetStyle(world.Find(DefaultStyleRefs()), true, {}, {});
+            world.panels[panel]->StartGroupModify();
+            for (const Operation& step : steps)
+                static_cast<void>(step.onModel(world));
+            world.panels[panel]->EndGroupModify(commit);
+        });
+}
+
 Operation BeIdle(Dice& /*dice*/)
 {
     return Do(
@@ -182,7 +225,7 @@ const Makers& WritingMakers()
                                   {2, ModifySubstyles}, {2, ModifyDefaultStyles},
                                   {1, WriteToDefault},  {1, AskForTransaction},
                                   {3, StartGroup},      {3, EndGroup},
-                                  {2, BeIdle}};
+                                  {2, BeIdle},          {3, DragOnDefaultStyles}};
     return makers;
 }
 
