@@ -100,6 +100,25 @@ Operation Revert(Dice& dice)
         [=](PlainWorld& world) { world.panels[panel]->OnRevertToParent(); });
 }
 
+/// The rows of a panel one after the other, as a person tries them.
+Operation RevertProperty(Dice& dice)
+{
+    const std::size_t panel = AnyPanel(dice);
+    const std::string identifier = AnyIdentifier(dice);
+    return Do(
+        PanelText(panel) + "SetActiveIdentifier(" + Quoted(identifier) + "), then OnRevertToParent();",
+        [=](LibraryWorld& world)
+        {
+            world.Panel(panel).SetActiveIdentifier(ToHost(identifier));
+            world.Panel(panel).OnRevertToParent();
+        },
+        [=](PlainWorld& world)
+        {
+            world.panels[panel]->SetActiveIdentifier(identifier);
+            world.panels[panel]->OnRevertToParent();
+        });
+}
+
 Operation ApplyToParent(Dice& dice)
 {
     const std::size_t panel = AnyPanel(dice);
@@ -195,10 +214,11 @@ Operation SetIdentifier(Dice& dice)
 
 const Makers& CommandMakers()
 {
-    static const Makers makers = {
-        {6, SetIdentifier},        {2, AskForState}, {2, AskForOverride}, {2, AskForPicture},
-        {1, AskForPictureWrongly}, {3, Revert},      {1, ApplyToParent},  {3, ApplyWholeToParent},
-        {3, BreakColorResource},   {1, CreateStyle}, {1, EditStyle},      {2, SetNoParent}};
+    static const Makers makers = {{6, SetIdentifier},      {2, AskForState},          {2, AskForOverride},
+                                  {2, AskForPicture},      {1, AskForPictureWrongly}, {1, Revert},
+                                  {6, RevertProperty},     {1, ApplyToParent},        {3, ApplyWholeToParent},
+                                  {3, BreakColorResource}, {1, CreateStyle},          {1, EditStyle},
+                                  {2, SetNoParent}};
     return makers;
 }
 

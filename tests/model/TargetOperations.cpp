@@ -175,6 +175,33 @@ Operation TieSibling(Dice& dice)
         [=](PlainWorld& world) { world.panels[panel]->siblings.push_back(world.PanelOrNull(sibling)); });
 }
 
+/// Targets for a panel and then, beside them, those of another that it is tied to.
+Operation ShowWithSibling(Dice& dice)
+{
+    const std::size_t panel = AnyPanel(dice);
+    const std::size_t sibling = (panel + 1 + dice.Below(2)) % 3;
+    const StyleRefs own = AnyStyles(dice);
+    StyleRefs others = AnyStyles(dice);
+    if (dice.Percent(50))
+        others.push_back({dice.Percent(50) ? "C0" : "C1", std::nullopt});
+    return Do(
+        PanelText(sibling) + "SetTargetStyle(" + TextOf(others) + ", false, (), {}); " + PanelText(panel) +
+            "RegisterSiblingDS(" + SiblingText(sibling) + "); " + PanelText(panel) + "SetTargetStyle(" +
+            TextOf(own) + ", false, (), {});",
+        [=](LibraryWorld& world)
+        {
+            world.Panel(sibling).SetTargetStyle(world.Find(others), false, Styles::PropertyPath(), {});
+            world.Panel(panel).RegisterSiblingDS(world.PanelOrNull(sibling));
+            world.Panel(panel).SetTargetStyle(world.Find(own), false, Styles::PropertyPath(), {});
+        },
+        [=](PlainWorld& world)
+        {
+            world.panels[sibling]->SetTargetStyle(world.Find(others), false, {}, {});
+            world.panels[panel]->siblings.push_back(world.PanelOrNull(sibling));
+            world.panels[panel]->SetTargetStyle(world.Find(own), false, {}, {});
+        });
+}
+
 Operation UntieSibling(Dice& dice)
 {
     const std::size_t panel = AnyPanel(dice);
@@ -229,10 +256,10 @@ Operation AskForTarget(Dice& dice)
 
 const Makers& TargetMakers()
 {
-    static const Makers makers = {{14, SetTargets},   {2, SetTargetsByKey}, {2, SetObjects},
-                                  {6, SelectObjects}, {1, ClearObjects},    {1, AskForObject},
-                                  {4, TieSibling},    {2, UntieSibling},    {1, ForceMore},
-                                  {1, ForceNothing},  {2, AskForAgreement}, {2, AskForTarget}};
+    static const Makers makers = {
+        {14, SetTargets},  {2, SetTargetsByKey}, {2, SetObjects},      {6, SelectObjects}, {1, ClearObjects},
+        {1, AskForObject}, {2, TieSibling},      {4, ShowWithSibling}, {2, UntieSibling},  {1, ForceMore},
+        {1, ForceNothing}, {2, AskForAgreement}, {2, AskForTarget}};
     return makers;
 }
 
