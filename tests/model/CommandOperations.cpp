@@ -100,23 +100,43 @@ Operation Revert(Dice& dice)
         [=](PlainWorld& world) { world.panels[panel]->OnRevertToParent(); });
 }
 
-/// The rows of a panel one after the other, as a person tries them.
-Operation RevertProperty(Dice& dice)
+/// A selection of styles that inherit, and a command on one row of the panel.
+Operation SelectAndDo(Dice& dice, const std::string& identifier, const std::string& command,
+                      void (DrivenPanel::*onLibrary)(), void (PlainPanel::*onModel)())
 {
     const std::size_t panel = AnyPanel(dice);
-    const std::string identifier = AnyIdentifier(dice);
+    StyleRefs refs = {{"S" + std::to_string(1 + dice.Below(5)), std::nullopt}};
+    if (dice.Percent(40))
+        refs.push_back({"S" + std::to_string(1 + dice.Below(5)), std::nullopt});
     return Do(
-        PanelText(panel) + "SetActiveIdentifier(" + Quoted(identifier) + "), then OnRevertToParent();",
+        PanelText(panel) + "SetTargetStyle(" + TextOf(refs) + ", false, (), {}); " + PanelText(panel) +
+            "SetActiveIdentifier(" + Quoted(identifier) + "); " + PanelText(panel) + command + "();",
         [=](LibraryWorld& world)
         {
-            world.Panel(panel).SetActiveIdentifier(ToHost(identifier));
-            world.Panel(panel).OnRevertToParent();
+            DrivenPanel& driven = world.Panel(panel);
+            driven.SetTargetStyle(world.Find(refs), false, Styles::PropertyPath(), {});
+            driven.SetActiveIdentifier(ToHost(identifier));
+            (driven.*onLibrary)();
         },
         [=](PlainWorld& world)
         {
-            world.panels[panel]->SetActiveIdentifier(identifier);
-            world.panels[panel]->OnRevertToParent();
+            PlainPanel& plain = *world.panels[panel];
+            plain.SetTargetStyle(world.Find(refs), false, {}, {});
+            plain.SetActiveIdentifier(identifier);
+            (plain.*onModel)();
         });
+}
+
+Operation SelectAndRevert(Dice& dice)
+{
+    return SelectAndDo(dice, AnyIdentifier(dice), "OnRevertToParent", &DrivenPanel::OnRevertToParent,
+                       &PlainPanel::OnRevertToParent);
+}
+
+Operation SelectAndApply(Dice& dice)
+{
+    return SelectAndDo(dice, "style", "OnApplyToParent", &DrivenPanel::OnApplyToParent,
+                       &PlainPanel::OnApplyToParent);
 }
 
 Operation ApplyToParent(Dice& dice)
@@ -126,24 +146,6 @@ Operation ApplyToParent(Dice& dice)
         PanelText(panel) + "Invoke(\"OnApplyToParent\");",
         [=](LibraryWorld& world) { world.Panel(panel).Invoke(L"OnApplyToParent"); },
         [=](PlainWorld& world) { world.panels[panel]->OnApplyToParent(); });
-}
-
-/// With the identifier that the command is for.
-Operation ApplyWholeToParent(Dice& dice)
-{
-    const std::size_t panel = AnyPanel(dice);
-    return Do(
-        PanelText(panel) + "SetActiveIdentifier(\"style\"), then OnApplyToParent();",
-        [=](LibraryWorld& world)
-        {
-            world.Panel(panel).SetActiveIdentifier(L"style");
-            world.Panel(panel).OnApplyToParent();
-        },
-        [=](PlainWorld& world)
-        {
-            world.panels[panel]->SetActiveIdentifier("style");
-            world.panels[panel]->OnApplyToParent();
-        });
 }
 
 std::string BreakColor(DrivenPanel& panel)
@@ -216,7 +218,7 @@ const Makers& CommandMakers()
 {
     static const Makers makers = {{6, SetIdentifier},      {2, AskForState},          {2, AskForOverride},
                                   {2, AskForPicture},      {1, AskForPictureWrongly}, {1, Revert},
-                                  {6, RevertProperty},     {1, ApplyToParent},        {3, ApplyWholeToParent},
+                                  {6, SelectAndRevert},    {1, ApplyToParent},        {3, SelectAndApply},
                                   {3, BreakColorResource}, {1, CreateStyle},          {1, EditStyle},
                                   {2, SetNoParent}};
     return makers;

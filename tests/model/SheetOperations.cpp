@@ -119,22 +119,45 @@ const Makers& SheetMakers()
     return makers;
 }
 
+namespace
+{
+
+Operation Inherit(const std::string& child, const std::string& parent)
+{
+    const StyleRef heir{child, std::nullopt};
+    const StyleRef ancestor{parent, std::nullopt};
+    return Do(
+        child + ".SetParent(" + parent + ");",
+        [=](LibraryWorld& world) { world.Find(heir)->SetParent(world.Find(ancestor)); },
+        [=](PlainWorld& world) { world.Find(heir)->parent = world.Find(ancestor); });
+}
+
+Operation Hold(const std::string& name, const std::string& dotted, int value)
+{
+    const StyleRef ref{name, std::nullopt};
+    const Path path = PathOf(dotted);
+    return Do(
+        name + ".SetPathProperty(" + dotted + ", " + std::to_string(value) + ");",
+        [=](LibraryWorld& world)
+        { world.Find(ref)->SetPathProperty(ToHost(path), ToHost(PlainValue(value))); },
+        [=](PlainWorld& world) { world.Find(ref)->StoreAt(path, value); });
+}
+
+} // namespace
+
 Sequence Preparation()
 {
-    const auto inherit = [](const std::string& child, const std::string& parent)
-    {
-        return Do(
-            child + ".SetParent(" + parent + ");",
-            [=](LibraryWorld& world) {
-                world.Find(StyleRef{child, {}})->SetParent(world.Find(StyleRef{parent, {}}));
-            },
-            [=](PlainWorld& world) {
-                world.Find(StyleRef{child, {}})->parent = world.Find(StyleRef{parent, {}});
-            });
-    };
-    return {FillSheet(12, 11, false), SetDefaultStyles({"S4", "S5"}),
-            inherit("S1", "S0"),      inherit("S2", "S1"),
-            inherit("S3", "S1"),      inherit("F1", "F0")};
+    return {FillSheet(12, 11, false),    SetDefaultStyles({"S4", "S5"}),
+            Inherit("S1", "S0"),         Inherit("S2", "S1"),
+            Inherit("S3", "S1"),         Inherit("S4", "S0"),
+            Inherit("S5", "S2"),         Inherit("F1", "F0"),
+            Inherit("F2", "F0"),         Inherit("F3", "F1"),
+            Inherit("F9", "F0"),         Inherit("C1", "C0"),
+            Hold("S0", "fill.color", 1), Hold("S0", "outline.width", 2),
+            Hold("S1", "fill.type", 1),  Hold("S1", "outline.color", 2),
+            Hold("S2", "fill.color", 2), Hold("S3", "outline.width", 1),
+            Hold("S3", "fill.type", 2),  Hold("F0", "color", 1),
+            Hold("F1", "color", 2)};
 }
 
 } // namespace LibraryModel
