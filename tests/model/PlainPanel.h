@@ -11,10 +11,10 @@
 namespace LibraryModel
 {
 
-/// One style-properties panel, step by step as it is required to work, on plain fields.
+/// One style-properties panel, step by step as it promises to work, on plain fields.
 ///
-/// It asks nothing of the library and remembers nothing that it need not: where the required steps say that
-/// something is found anew, it is found anew. Operations are named after those of the library.
+/// It asks nothing of the library and remembers nothing that it need not: where a step begins by finding
+/// something, it is found anew. Operations are named after those of the library.
 class PlainPanel
 {
 public:
@@ -122,7 +122,7 @@ public:
 
     Key category;
     std::string presetCategory;
-    PlainContext* context = nullptr; ///< In which it is made anew next, and lives until then.
+    PlainContext* context = nullptr; ///< In which it lives; null for none.
 
     // The state of the panel; read by the answers
 

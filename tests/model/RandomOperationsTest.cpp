@@ -1,4 +1,6 @@
 // The library beside a second, naive model of it: random sequences of operations must leave no difference.
+// STYLEPROPERTIES_MODEL_STEPS and STYLEPROPERTIES_MODEL_SEED in the environment ask for longer and other
+// runs.
 
 #include "tests/model/RandomOperations.h"
 #include "tests/model/Comparison.h"
