@@ -3,6 +3,7 @@
 
 #include "datasource/ActivePaths.h"
 #include "datasource/BaseStylePropertiesDatasource.h"
+#include "datasource/Rollback.h"
 #include "host/data_binding/ID_CString.h"
 #include "host/resources/Resources.h"
 #include "host/style_model/CategoryNames.h"
@@ -100,8 +101,10 @@ void BaseStylePropertiesDatasource::ImportForceAmbiguous(const PropertyPath& pat
         return;
     }
 
+    std::set<PropertyPath> imported;
     for (auto entry = paths.lower_bound(path); entry != paths.end() && BeginsWith(*entry, path); ++entry)
-        forceAmbiguous.emplace(entry->begin() + static_cast<std::ptrdiff_t>(path.size()), entry->end());
+        imported.emplace(entry->begin() + static_cast<std::ptrdiff_t>(path.size()), entry->end());
+    forceAmbiguous.merge(imported);
 }
 
 void BaseStylePropertiesDatasource::ImportForceAmbiguous(const PropertyKey& key,
@@ -160,8 +163,10 @@ bool BaseStylePropertiesDatasource::HasParent() const
 {
     if (hasParentPending)
     {
+        Rollback before(hasParentPending);
         hasParentPending = false;
         hasParent = hasParentDelegate();
+        before.Keep();
     }
     return hasParent;
 }

@@ -2,6 +2,7 @@
 // style name; the predicates on editing stand in StyleEditing, values and states in PropertyState.
 
 #include "datasource/BaseStylePropertiesDatasource.h"
+#include "datasource/Rollback.h"
 #include "host/resources/Resources.h"
 #include "host/style_model/CategoryNames.h"
 #include "host/style_model/IStylesSource.h"
@@ -50,6 +51,8 @@ void BaseStylePropertiesDatasource::SetTargetStyle(const std::vector<Style*>& st
                                                    const PropertyPath& path,
                                                    const std::set<PropertyPath>& newForceAmbiguous)
 {
+    Rollback before(forceAmbiguous, ownStyles, targetStyles, hasParent, hasParentPending, isDefaultStyles,
+                    ignoreCharacterStyleSiblings, sectionTitle, styleName);
     ClearForceAmbiguous();
     ImportForceAmbiguous(path, newForceAmbiguous);
     ownStyles = StylesToSubStyles(styles);
@@ -66,6 +69,7 @@ void BaseStylePropertiesDatasource::SetTargetStyle(const std::vector<Style*>& st
     styleName = OvxStringT();
     MergeSiblingTargets();
     styleName = FindSheetName(GetFirstTarget());
+    before.Keep();
 
     UpdateListeners(L"SectionTitle");
 }
@@ -126,13 +130,14 @@ void BaseStylePropertiesDatasource::AppendTargetsOf(const BaseStylePropertiesDat
 
 void BaseStylePropertiesDatasource::SetObjectStyles(const std::map<Style*, std::size_t>& newObjectStyles)
 {
+    std::map<Style*, std::size_t> taken = newObjectStyles;
     // Only the objects are compared: other styles of the same objects leave the preset selected.
     const bool sizesDiffer = newObjectStyles.size() != objectStyles.size();
     if (sizesDiffer ||
         (!newObjectStyles.empty() && newObjectStyles.begin()->second != objectStyles.begin()->second))
         SelectNoPreset();
 
-    objectStyles = newObjectStyles;
+    objectStyles.swap(taken);
 }
 
 void BaseStylePropertiesDatasource::ClearObjectStyles()
