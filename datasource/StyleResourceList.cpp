@@ -3,6 +3,7 @@
 
 #include "datasource/BaseStylePropertiesDatasource.h"
 #include "datasource/CurrentDataContext.h"
+#include "datasource/Rollback.h"
 #include "host/data_binding/IDataContext.h"
 #include "host/resources/Resources.h"
 #include "host/style_model/CategoryNames.h"
@@ -156,6 +157,8 @@ void ForMoreStylesDialog(IDataContext* dataContext, const PropertyKey& category,
 
 WXmlNode BaseStylePropertiesDatasource::GetStyleResourceList()
 {
+    // A list that came half way is not the one that picks are looked up in.
+    Rollback before(resourceListNode, newStyleListBuilt, visibleLimit, listedStyleCount);
     WXmlNode list = listDocument.CreateNode(L"placeholderData");
     resourceListNode = list;
     newStyleListBuilt = false;
@@ -163,13 +166,14 @@ WXmlNode BaseStylePropertiesDatasource::GetStyleResourceList()
 
     const StyleSheet* sheet = FindSheet(StylesCommon::GetActiveStyleSource());
     Style* target = sheet == nullptr ? nullptr : GetTargetStyle(0);
-    if (target == nullptr)
-        return list;
-
-    const OvxStringT current = ParentNameOf(target, *sheet);
-    const std::vector<OvxStringT> names = OfferedNames(*sheet, GetCategory(), target);
-    AddNoStyleEntry(list, styleName.empty() ? kNoStyleTextKey : kNoParentTextKey, current.empty());
-    AddStyleEntries(list, names, current);
+    if (target != nullptr)
+    {
+        const OvxStringT current = ParentNameOf(target, *sheet);
+        const std::vector<OvxStringT> names = OfferedNames(*sheet, GetCategory(), target);
+        AddNoStyleEntry(list, styleName.empty() ? kNoStyleTextKey : kNoParentTextKey, current.empty());
+        AddStyleEntries(list, names, current);
+    }
+    before.Keep();
     return list;
 }
 
@@ -202,12 +206,14 @@ WXmlNode BaseStylePropertiesDatasource::GetNewStyleList()
     if (newStyleListBuilt)
         return resourceListNode;
 
+    Rollback before(resourceListNode, newStyleListBuilt, currentListItem);
     WXmlNode list = listDocument.CreateNode(L"placeholderData");
     resourceListNode = list;
     newStyleListBuilt = true;
     currentListItem = WXmlNode();
     if (const StyleSheet* sheet = FindSheet(StylesCommon::GetActiveStyleSource()))
         AddOverflowEntries(list, *sheet);
+    before.Keep();
     return list;
 }
 
