@@ -2,6 +2,7 @@
 // the lists lie in the preset data source, which all panels share, and the presets with the host's manager.
 
 #include "datasource/BaseStylePropertiesDatasource.h"
+#include "datasource/Rollback.h"
 #include "host/data_binding/IDataContext.h"
 #include "host/resources/Resources.h"
 #include "host/style_model/IStylesSource.h"
@@ -27,10 +28,19 @@ StylePresetManager& PresetManager()
 
 void FillList(WCmnUI_List& list, IStylesSource& source, const OvxStringT& category)
 {
-    std::vector<PresetListEntry> entries;
-    for (const OvxStringT& name : PresetManager().GetPresetNames(category))
-        entries.push_back({name, list.AddItem(), entries.size()});
-    source.FillPresetItems(entries, category);
+    try
+    {
+        std::vector<PresetListEntry> entries;
+        for (const OvxStringT& name : PresetManager().GetPresetNames(category))
+            entries.push_back({name, list.AddItem(), entries.size()});
+        source.FillPresetItems(entries, category);
+    }
+    catch (...)
+    {
+        // What came half way would pass for the whole list ever after.
+        list = WCmnUI_List();
+        throw;
+    }
 }
 
 void RemoveFirst(WCmnUI_List& list, const OvxStringT& text)
@@ -43,6 +53,15 @@ void RemoveFirst(WCmnUI_List& list, const OvxStringT& text)
             return;
         }
     }
+}
+
+/// Deletes a preset with its entry in the list of its category; `presets` may be null.
+void DeletePreset(StylePresets* presets, const OvxStringT& category, const OvxStringT& name)
+{
+    WCmnUI_List* list = presets == nullptr ? nullptr : &presets->GetPresetList(category);
+    PresetManager().DeletePreset(category, name);
+    if (list != nullptr)
+        RemoveFirst(*list, name);
 }
 
 void ShowAddPresetDialog(const StylePresets& presets)
@@ -84,10 +103,12 @@ WCmnUI_ListItem BaseStylePropertiesDatasource::GetCurrentPreset()
 
 void BaseStylePropertiesDatasource::SetCurrentPreset(const WCmnUI_ListItem& item)
 {
+    Rollback before(currentPreset);
     currentPreset = item;
     IStylesSource* source = StylesCommon::GetActiveStyleSource();
     if (source != nullptr && currentPreset.GetIndex() != -1)
         ApplyCurrentPreset(*source);
+    before.Keep();
     UpdateListeners(L"CurrentPreset,DeletePresetEnabled");
 }
 
@@ -133,18 +154,27 @@ int BaseStylePropertiesDatasource::IsDeletePresetEnabled() const
 
 void BaseStylePropertiesDatasource::OnDeletePreset()
 {
-    if (currentPreset.GetIndex() != -1)
+    bool isDeleted = false;
+    try
     {
-        const OvxStringT name = currentPreset.GetText();
-        StylePresets* presets = FindStylePresets();
-        const OvxStringT category = PresetCategoryName();
-        PresetManager().DeletePreset(category, name);
-        if (presets != nullptr)
+        if (currentPreset.GetIndex() != -1)
         {
-            RemoveFirst(presets->GetPresetList(category), name);
-            presets->UpdateListeners(category);
+            const OvxStringT name = currentPreset.GetText();
+            StylePresets* presets = FindStylePresets();
+            const OvxStringT category = PresetCategoryName();
+            DeletePreset(presets, category, name);
+            isDeleted = true;
+            if (presets != nullptr)
+                presets->UpdateListeners(category);
         }
+        SelectNoPreset();
     }
-    SelectNoPreset();
+    catch (...)
+    {
+        // What is gone stays selected no longer, whatever a listener does.
+        if (isDeleted)
+            currentPreset = WCmnUI_ListItem();
+        throw;
+    }
     UpdateListeners(L"CurrentPreset,DeletePresetEnabled");
 }

@@ -59,9 +59,13 @@ void StylePresets::SetAddPresetName(const OvxStringT& name)
 void StylePresets::Prepare(const Styles::Style& style, const OvxStringT& category,
                            const OvxStringT& proposedName)
 {
-    styleToSave = style;
-    categoryName = category;
-    presetName = proposedName;
+    // First all copies: the fields belong together.
+    auto styleCopy = std::make_unique<Styles::Style>(style);
+    OvxStringT categoryCopy = category;
+    OvxStringT nameCopy = proposedName;
+    styleToSave = std::move(styleCopy);
+    categoryName = std::move(categoryCopy);
+    presetName = std::move(nameCopy);
 }
 
 void StylePresets::OnAddPresetOk()
@@ -70,11 +74,25 @@ void StylePresets::OnAddPresetOk()
         return;
     if (StylesCommon::GetActiveStyleSource() != nullptr)
     {
-        PresetManager().AddPreset(categoryName, presetName, styleToSave, /*replace=*/true);
-        InsertIntoCachedList();
+        PresetManager().AddPreset(categoryName, presetName, *styleToSave, /*replace=*/true);
+        BringCachedListInLine();
     }
     UpdateListeners(categoryName);
     CloseDialog();
+}
+
+void StylePresets::BringCachedListInLine()
+{
+    try
+    {
+        InsertIntoCachedList();
+    }
+    catch (...)
+    {
+        // A list without the preset would be taken for the whole one ever after; an empty one is filled.
+        presetLists[categoryName] = WCmnUI_List();
+        throw;
+    }
 }
 
 bool StylePresets::MayKeepPreset() const

@@ -7,6 +7,7 @@
 #include "presets/WDynamicDataSource.h"
 
 #include <map>
+#include <memory>
 
 /// The data source behind the dialog that names a new preset, and the home of the preset lists that all
 /// panels show, one for each preset category.
@@ -48,13 +49,14 @@ private:
     void DoNothing() {}
 
     [[nodiscard]] bool MayKeepPreset() const;
+    void BringCachedListInLine();
     void InsertIntoCachedList();
     void CloseDialog();
 
     std::map<OvxStringT, WCmnUI_List> presetLists; ///< By preset category, in ordinal order.
     OvxStringT presetName;
     OvxStringT categoryName;
-    Styles::Style styleToSave;
+    std::unique_ptr<Styles::Style> styleToSave = std::make_unique<Styles::Style>(); ///< Never null.
 };
 
 /// The preset data source that lives in the host's current data context under its class name; null when there

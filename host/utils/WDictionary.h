@@ -28,9 +28,14 @@ public:
     /// Keeps `value` under `key`. Another object that stood there is destroyed first; null removes it.
     void Set(const Key& key, std::unique_ptr<Value> value)
     {
-        values.erase(key);
-        if (value != nullptr)
-            values.emplace(key, std::move(value));
+        if (value == nullptr)
+        {
+            values.erase(key);
+            return;
+        }
+        std::unique_ptr<Value>& place = values[key];
+        place.reset();
+        place = std::move(value);
     }
 
 private:
