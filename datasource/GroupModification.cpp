@@ -67,10 +67,10 @@ void BaseStylePropertiesDatasource::EndGroupModify(bool commit)
     SortAndRemoveRepeated(groupModifyPaths);
     RemoveAll(groupModifyOverridePaths, groupModifyPaths);
 
-    // The group is closed before it is written, so that it is not gathered again; the lists are copied,
-    // because whoever is called may start the next group.
-    std::unique_ptr<Style> values = std::move(groupModifyStyle);
+    // The lists are copied, because whoever is called may start the next group. The group is closed before it
+    // is written, so that it is not gathered again, and after everything that may fail here.
     const PropertyPaths paths = groupModifyPaths;
     const PropertyPaths overridePaths = groupModifyOverridePaths;
+    std::unique_ptr<Style> values = std::move(groupModifyStyle);
     ModifyStyles(paths, std::move(values), &overridePaths);
 }

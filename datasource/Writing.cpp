@@ -12,6 +12,7 @@
 #include "module/StylesCommon.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 using namespace Styles;
@@ -53,6 +54,19 @@ PropertyPaths Prefixed(const PropertyKey& key, const PropertyPaths& paths)
 void Append(PropertyPaths& paths, const PropertyPaths& added)
 {
     paths.insert(paths.end(), added.begin(), added.end());
+}
+
+/// Makes room for further paths, with the spare room that growing lists have.
+void MakeRoom(PropertyPaths& paths, std::size_t further)
+{
+    if (paths.capacity() - paths.size() < further)
+        paths.reserve(std::max(paths.size() + further, 2 * paths.size()));
+}
+
+/// Appends without failing, where room was made before.
+void MoveBehind(PropertyPaths& paths, PropertyPaths added) noexcept
+{
+    paths.insert(paths.end(), std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()));
 }
 
 PropertyPaths CopyOf(const PropertyPaths* paths)
@@ -136,6 +150,19 @@ Style* FindDestination(Style& defaultStyle, const PropertyKey& category)
 {
     return category == StyleCategoryName ? &defaultStyle
                                          : defaultStyle.GetSubstyleAndCreateIfMissing(category, category);
+}
+
+void WriteToDefaultStyles(const PropertyPaths& paths, const Style& values)
+{
+    IStylesSource* source = StylesCommon::GetActiveStyleSource();
+    if (source == nullptr)
+        return;
+    for (Style* defaultStyle : source->GetDefaultStyles())
+    {
+        Style* destination = FindDestination(*defaultStyle, values.GetCategoryName());
+        if (destination != nullptr)
+            destination->SetProperties(paths, &values);
+    }
 }
 
 } // namespace
@@ -235,15 +262,19 @@ void BaseStylePropertiesDatasource::ModifyStyles(const PropertyPaths& paths, std
 
 void BaseStylePropertiesDatasource::GatherIntoGroup(const PendingWrite& write) const
 {
-    PropertyPaths combined = write.paths;
-    Append(groupModifyPaths, write.paths);
-    if (write.overridePaths != nullptr)
-    {
-        Append(combined, *write.overridePaths);
-        Append(groupModifyOverridePaths, *write.overridePaths);
-    }
+    PropertyPaths paths = write.paths;
+    PropertyPaths overridePaths = CopyOf(write.overridePaths);
+    PropertyPaths combined = paths;
+    Append(combined, overridePaths);
+
+    // A path without its value would be reset when the group is committed: the paths come last, when nothing
+    // can fail any more.
+    MakeRoom(groupModifyPaths, paths.size());
+    MakeRoom(groupModifyOverridePaths, overridePaths.size());
     if (write.values != nullptr)
         groupModifyStyle->SetProperties(combined, write.values.get());
+    MoveBehind(groupModifyPaths, std::move(paths));
+    MoveBehind(groupModifyOverridePaths, std::move(overridePaths));
 }
 
 void BaseStylePropertiesDatasource::ModifyTargets(IMultipleStyleModifier& modifier, PendingWrite& write) const
@@ -305,21 +336,24 @@ void BaseStylePropertiesDatasource::ModifyDefaultStyles(const PropertyPaths& pat
                                                         std::unique_ptr<Style> values) const
 {
     const PropertyKey category = values == nullptr ? PropertyKey::Empty : values->GetCategoryName();
-    IStylesSource* source = values == nullptr ? nullptr : StylesCommon::GetActiveStyleSource();
-    if (source != nullptr)
-    {
-        for (Style* defaultStyle : source->GetDefaultStyles())
-        {
-            Style* destination = FindDestination(*defaultStyle, category);
-            if (destination != nullptr)
-                destination->SetProperties(paths, values.get());
-        }
-    }
-
-    // Raised whether or not anything was written: whoever shows default styles reads them again.
     const OvxStringT name = L"StylePropertiesChange";
-    OvxUtils::Singleton<IAppEventBroadcaster>::GetInstance().NotifyListenersOnIdleImpl(
-        name, true, std::make_shared<PendingEvent<PropertyKey, OvxStringT>>(name, category, OvxStringT()));
+    const auto event = std::make_shared<PendingEvent<PropertyKey, OvxStringT>>(name, category, OvxStringT());
+    // Raised whether or not anything was written, also when that fails half way: whoever shows default styles
+    // reads them again.
+    const auto raise = [&name, &event] {
+        OvxUtils::Singleton<IAppEventBroadcaster>::GetInstance().NotifyListenersOnIdleImpl(name, true, event);
+    };
+    try
+    {
+        if (values != nullptr)
+            WriteToDefaultStyles(paths, *values);
+    }
+    catch (...)
+    {
+        raise();
+        throw;
+    }
+    raise();
 }
 
 void BaseStylePropertiesDatasource::WriteToDefault(OvxStringT name, const PropertyKey& key,
