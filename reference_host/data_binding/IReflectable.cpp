@@ -87,9 +87,20 @@ void IReflectable::_AddDelegate(OvxStringViewT name, OvxUtils::RepeatingCallback
     ReferenceHost::UiThread::Check();
     const OvxStringT served(NameServedBy(name, type));
     std::vector<OvxStringT>& names = registry->names;
-    if (std::find(names.begin(), names.end(), served) == names.end())
+    const bool isNew = std::find(names.begin(), names.end(), served) == names.end();
+    if (isNew)
         names.push_back(served);
-    registry->delegates.insert_or_assign(OvxStringT(name), DynamicDelegate{std::move(callback), type});
+    try
+    {
+        registry->delegates.insert_or_assign(OvxStringT(name), DynamicDelegate{std::move(callback), type});
+    }
+    catch (...)
+    {
+        // A name is not listed that nothing is called by.
+        if (isNew)
+            names.pop_back();
+        throw;
+    }
 }
 
 void IReflectable::_AddType(OvxStringViewT name, const RuntimeType& type)

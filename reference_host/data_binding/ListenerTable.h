@@ -39,8 +39,17 @@ public:
         const ListenerToken token{++lastId};
         auto subscription =
             std::make_shared<Subscription>(Subscription{token, OvxStringT(name), std::move(listener), true});
-        byName[subscription->name].push_back(subscription);
-        byToken.emplace(token.id, std::move(subscription));
+        // By its token first, so that a subscription that comes half way can be taken back.
+        byToken.emplace(token.id, subscription);
+        try
+        {
+            byName[subscription->name].push_back(subscription);
+        }
+        catch (...)
+        {
+            Remove(token);
+            throw;
+        }
         return token;
     }
 
@@ -55,6 +64,8 @@ public:
         ended->active = false;
         byToken.erase(found);
         const auto row = byName.find(ended->name);
+        if (row == byName.end())
+            return;
         std::erase(row->second, ended);
         if (row->second.empty())
             byName.erase(row);
