@@ -4,7 +4,10 @@
 
 IDataSource::~IDataSource() = default;
 
-DataSourceImpl::DataSourceImpl() = default;
+DataSourceImpl::DataSourceImpl()
+{
+    ReferenceHost::DataSourceLifetime::OnMade();
+}
 
 DataSourceImpl::~DataSourceImpl()
 {

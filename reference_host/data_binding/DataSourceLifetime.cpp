@@ -3,9 +3,9 @@
 #include "reference_host/utils/Immortal.h"
 
 #include <algorithm>
-#include <deque>
 #include <memory>
 #include <unordered_map>
+#include <vector>
 
 namespace ReferenceHost
 {
@@ -15,7 +15,7 @@ namespace
 
 struct Lifetimes
 {
-    std::deque<IDataSource*> deferred; ///< Ended, not yet destroyed; each once.
+    std::vector<IDataSource*> deferred; ///< Ended, not yet destroyed; each once.
     std::unordered_map<const IDataSource*, IDataSourceOwner*> owners;
 };
 
@@ -39,6 +39,11 @@ NotificationScope::~NotificationScope()
     --notificationDepth;
 }
 
+void DataSourceLifetime::OnMade()
+{
+    static_cast<void>(GetLifetimes());
+}
+
 void DataSourceLifetime::End(IDataSource& dataSource)
 {
     if (notificationDepth == 0)
@@ -46,7 +51,7 @@ void DataSourceLifetime::End(IDataSource& dataSource)
         const std::unique_ptr<IDataSource> ended(&dataSource);
         return;
     }
-    std::deque<IDataSource*>& deferred = GetLifetimes().deferred;
+    std::vector<IDataSource*>& deferred = GetLifetimes().deferred;
     if (std::find(deferred.begin(), deferred.end(), &dataSource) == deferred.end())
         deferred.push_back(&dataSource);
 }
@@ -56,12 +61,12 @@ std::size_t DataSourceLifetime::TakeDeferred()
     if (notificationDepth != 0)
         return 0;
 
-    std::deque<IDataSource*>& deferred = GetLifetimes().deferred;
+    std::vector<IDataSource*>& deferred = GetLifetimes().deferred;
     std::size_t count = 0;
     while (!deferred.empty())
     {
         const std::unique_ptr<IDataSource> ended(deferred.front());
-        deferred.pop_front();
+        deferred.erase(deferred.begin());
         ++count;
     }
     return count;

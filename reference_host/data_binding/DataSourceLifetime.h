@@ -38,6 +38,10 @@ class STYLEPROPERTIES_HOST_API DataSourceLifetime
 public:
     DataSourceLifetime() = delete;
 
+    /// Called by the constructor of every DataSourceImpl: what its destructor needs is made now, where that
+    /// may fail.
+    static void OnMade();
+
     /// Destroys `dataSource` at once, or, while a notification is being delivered on this thread, at the next
     /// TakeDeferred. Ending one that waits already changes nothing.
     static void End(IDataSource& dataSource);
