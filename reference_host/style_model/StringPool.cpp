@@ -31,16 +31,29 @@ public:
         if (found != known.end())
             return found->second;
 
-        const std::wstring& kept = copies.emplace_back(characters);
-        const StringPool::Text& text = texts.emplace_back(StringPool::Text{kept});
-        known.emplace(text.characters, &text);
-        return &text;
+        Kept& added = kept.emplace_back(Kept{std::wstring(characters), {}});
+        added.text.characters = added.characters;
+        try
+        {
+            known.emplace(added.text.characters, &added.text);
+        }
+        catch (...)
+        {
+            kept.pop_back();
+            throw;
+        }
+        return &added.text;
     }
 
 private:
+    struct Kept
+    {
+        std::wstring characters; ///< What the text shows.
+        StringPool::Text text;
+    };
+
     std::mutex mutex;
-    std::deque<std::wstring> copies; ///< What `texts` show; deques keep the addresses of what they hold.
-    std::deque<StringPool::Text> texts;
+    std::deque<Kept> kept; ///< A deque keeps the addresses of what it holds.
     std::unordered_map<std::wstring_view, const StringPool::Text*> known;
 };
 
