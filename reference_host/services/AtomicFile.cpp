@@ -22,11 +22,13 @@ namespace
 
 using Path = std::filesystem::path;
 
-/// Removes a temporary file unless it has found its place.
+/// Removes a temporary file unless it has found its place. Handed on without a copy, which could fail.
 class Leftover
 {
 public:
-    explicit Leftover(Path file) : path(std::move(file)) {}
+    explicit Leftover(Path file) noexcept : path(std::move(file)) {}
+
+    Leftover(Leftover&& other) noexcept : path(std::exchange(other.path, Path())) {}
 
     Leftover(const Leftover&) = delete;
     Leftover& operator=(const Leftover&) = delete;
@@ -38,7 +40,10 @@ public:
             std::filesystem::remove(path, ignored);
     }
 
-    void Keep() { path.clear(); }
+    [[nodiscard]] const Path& GetPath() const noexcept { return path; }
+
+    /// Leaves the file to the caller.
+    [[nodiscard]] Path Release() noexcept { return std::exchange(path, Path()); }
 
 private:
     Path path;
@@ -82,12 +87,12 @@ void KeepBackup(const Path& file)
 
 #if defined(_WIN32)
 
-Path WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::Written& written)
+Leftover WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::Written& written)
 {
     Path temporary = file;
     temporary += ".new";
-    Leftover leftover(temporary);
-    std::ofstream stream(temporary, std::ios::binary | std::ios::trunc);
+    Leftover leftover(std::move(temporary));
+    std::ofstream stream(leftover.GetPath(), std::ios::binary | std::ios::trunc);
     std::size_t done = 0;
     while (stream && done < bytes.size())
     {
@@ -100,8 +105,7 @@ Path WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::
     stream.close();
     if (!stream)
         throw std::system_error(std::make_error_code(std::errc::io_error), "the bytes cannot be written");
-    leftover.Keep();
-    return temporary;
+    return leftover;
 }
 
 void FlushFolder(const Path& /*folder*/)
@@ -182,19 +186,32 @@ void TakeOver(int descriptor, const Path& old)
         Fail("the permissions cannot be kept");
 }
 
-Path WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::Written& written)
+/// Takes charge of a file that was just made.
+Leftover TakeCharge(const std::string& name)
+{
+    try
+    {
+        return Leftover(name);
+    }
+    catch (...)
+    {
+        unlink(name.c_str());
+        throw;
+    }
+}
+
+Leftover WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::Written& written)
 {
     std::string name = (FolderOf(file) / ("." + file.filename().string() + ".XXXXXX")).string();
     Descriptor descriptor(mkstemp(name.data()));
     if (descriptor.Get() < 0)
         Fail("no file can be made beside it");
-    Leftover leftover(name);
+    Leftover leftover = TakeCharge(name);
     WriteAll(descriptor.Get(), bytes, written);
     TakeOver(descriptor.Get(), file);
     if (fsync(descriptor.Get()) != 0 || !descriptor.Close())
         Fail("the bytes cannot be written");
-    leftover.Keep();
-    return name;
+    return leftover;
 }
 
 /// Makes the new name last. A file system that cannot do that for folders does it in its own time.
@@ -216,26 +233,28 @@ StagedFile::StagedFile(const Path& target, std::string_view bytes, const Written
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
         throw std::system_error(std::make_error_code(std::errc::invalid_argument),
                                 "what is there is no regular file");
-    temporary = WriteTemporary(file, bytes, written);
+    temporary = WriteTemporary(file, bytes, written).Release();
 }
 
 StagedFile::StagedFile(StagedFile&& other) noexcept
-    : file(std::move(other.file)), temporary(std::exchange(other.temporary, {}))
+    : file(std::move(other.file)), temporary(std::exchange(other.temporary, Path()))
 {
 }
 
 StagedFile::~StagedFile()
 {
-    const Leftover leftover(temporary);
+    const Leftover removed(std::move(temporary));
 }
 
 void StagedFile::TakePlace(Backup backup)
 {
+    // What may fail comes before the file is in its place.
+    const Path folder = FolderOf(file);
     if (backup == Backup::Keep && std::filesystem::exists(file))
         KeepBackup(file);
     std::filesystem::rename(temporary, file);
     temporary.clear();
-    FlushFolder(FolderOf(file));
+    FlushFolder(folder);
 }
 
 void WriteFileAtomically(const Path& target, std::string_view bytes, Backup backup)
