@@ -4,6 +4,8 @@
 #include "reference_host/document/XmlScan.h"
 #include "reference_host/document/XmlText.h"
 
+#include <new>
+
 namespace ReferenceHost
 {
 
@@ -25,6 +27,8 @@ std::unique_ptr<pugi::xml_document> ParseCheckedXml(std::string_view text, const
     auto tree = std::make_unique<pugi::xml_document>();
     const pugi::xml_parse_result result = tree->load_buffer(
         plain.data(), plain.size(), pugi::parse_default | pugi::parse_ws_pcdata, pugi::encoding_utf8);
+    if (result.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
     if (!result)
     {
         const auto offset = static_cast<std::size_t>(result.offset);

@@ -11,9 +11,10 @@
 
 #include <array>
 #include <charconv>
+#include <new>
 #include <optional>
 #include <set>
-#include <sstream>
+#include <utility>
 
 namespace ReferenceHost
 {
@@ -109,6 +110,33 @@ constexpr std::array<ValueType, 4> kValueTypes{
       },
       ReadText}}};
 
+/// Behind the other children. A null node would drop what it is to hold without a word.
+pugi::xml_node AddElement(pugi::xml_node parent, const char* name)
+{
+    const pugi::xml_node added = parent.append_child(name);
+    if (!added)
+        throw std::bad_alloc();
+    return added;
+}
+
+void AddAttribute(pugi::xml_node element, const char* name, const char* value)
+{
+    pugi::xml_attribute added = element.append_attribute(name);
+    if (!added || !added.set_value(value))
+        throw std::bad_alloc();
+}
+
+/// Takes the file as text. Unlike a stream, it lets failures through.
+struct TextWriter final : pugi::xml_writer
+{
+    void write(const void* data, std::size_t size) override
+    {
+        text.append(static_cast<const char*>(data), size);
+    }
+
+    std::string text;
+};
+
 void WriteProperty(pugi::xml_node parent, const Styles::OwnProperty& property)
 {
     for (const ValueType& type : kValueTypes)
@@ -116,23 +144,23 @@ void WriteProperty(pugi::xml_node parent, const Styles::OwnProperty& property)
         const std::optional<std::string> text = type.format(property.value);
         if (!text)
             continue;
-        pugi::xml_node element = parent.append_child("property");
-        element.append_attribute("key") = ToPresetText(property.key.GetString()).c_str();
-        element.append_attribute("type") = type.name;
-        element.append_attribute("value") = text->c_str();
+        const pugi::xml_node element = AddElement(parent, "property");
+        AddAttribute(element, "key", ToPresetText(property.key.GetString()).c_str());
+        AddAttribute(element, "type", type.name);
+        AddAttribute(element, "value", text->c_str());
     }
 }
 
 void WriteStyle(pugi::xml_node element, const Style& style)
 {
-    element.append_attribute("category") = ToPresetText(style.GetCategoryName().GetString()).c_str();
+    AddAttribute(element, "category", ToPresetText(style.GetCategoryName().GetString()).c_str());
     const StyleData& data = StyleData::Of(style);
     for (const Styles::OwnProperty& property : data.properties)
         WriteProperty(element, property);
     for (const Styles::OwnSubstyle& substyle : data.substyles)
     {
-        pugi::xml_node child = element.append_child("style");
-        child.append_attribute("key") = ToPresetText(substyle.key.GetString()).c_str();
+        const pugi::xml_node child = AddElement(element, "style");
+        AddAttribute(child, "key", ToPresetText(substyle.key.GetString()).c_str());
         WriteStyle(child, *substyle.style);
     }
 }
@@ -180,16 +208,16 @@ std::string FormatPreset(const OvxStringT& name, const Style& style)
     std::set<PropertyKey> keys;
     const std::unique_ptr<Style> flattened(style.CreateFlattenedStyle(keys));
     pugi::xml_document document;
-    pugi::xml_node declaration = document.append_child(pugi::node_declaration);
-    declaration.append_attribute("version") = "1.0";
-    declaration.append_attribute("encoding") = "UTF-8";
-    pugi::xml_node root = document.append_child("preset");
-    root.append_attribute("xmlns") = kNamespace;
-    root.append_attribute("name") = ToPresetText(name).c_str();
+    const pugi::xml_node declaration = document.append_child(pugi::node_declaration);
+    AddAttribute(declaration, "version", "1.0");
+    AddAttribute(declaration, "encoding", "UTF-8");
+    const pugi::xml_node root = AddElement(document, "preset");
+    AddAttribute(root, "xmlns", kNamespace);
+    AddAttribute(root, "name", ToPresetText(name).c_str());
     WriteStyle(root, *flattened);
-    std::ostringstream text;
-    document.save(text, "    ", pugi::format_default, pugi::encoding_utf8);
-    return text.str();
+    TextWriter writer;
+    document.save(writer, "    ", pugi::format_default, pugi::encoding_utf8);
+    return std::move(writer.text);
 }
 
 Preset ParsePreset(std::string_view text, const std::string& label)

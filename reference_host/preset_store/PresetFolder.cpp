@@ -5,6 +5,7 @@
 #include "reference_host/preset_store/PresetFileName.h"
 #include "reference_host/preset_store/PresetReports.h"
 #include "reference_host/services/AtomicFile.h"
+#include "reference_host/services/FolderListing.h"
 #include "reference_host/services/FolderLock.h"
 #include "reference_host/services/NativePaths.h"
 
@@ -12,6 +13,7 @@
 #include <exception>
 #include <fstream>
 #include <iterator>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -28,14 +30,8 @@ constexpr std::uintmax_t kLargestFile = 1U << 20U;
 
 std::vector<std::filesystem::path> FindFiles(const std::filesystem::path& folder)
 {
-    std::vector<std::filesystem::path> files;
-    std::error_code ignored; // Without a folder there are no presets.
-    for (std::filesystem::directory_iterator entry(folder, ignored), end; entry != end;
-         entry.increment(ignored))
-    {
-        if (entry->path().extension() == kExtension)
-            files.push_back(entry->path());
-    }
+    std::vector<std::filesystem::path> files = ListFolder(folder);
+    std::erase_if(files, [](const std::filesystem::path& file) { return file.extension() != kExtension; });
     std::ranges::sort(files);
     return files;
 }
@@ -156,6 +152,10 @@ bool PresetFolder::Add(const OvxStringT& name, const std::string& fileName, cons
         WriteFileAtomically(file, FormatPreset(name, style), Backup::None);
         return true;
     }
+    catch (const std::bad_alloc&)
+    {
+        throw; // Nothing to do with the folder.
+    }
     catch (const std::exception& error)
     {
         ReportPresetProblem(PresetProblem::NotChanged, error.what());
@@ -172,6 +172,10 @@ bool PresetFolder::Remove(const OvxStringT& name) const
         const FolderLock lock(folder);
         const std::filesystem::path file = FindFile(name);
         return !file.empty() && std::filesystem::remove(file);
+    }
+    catch (const std::bad_alloc&)
+    {
+        throw; // Nothing to do with the folder.
     }
     catch (const std::exception& error)
     {
