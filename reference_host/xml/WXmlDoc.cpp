@@ -4,6 +4,7 @@
 #include "reference_host/xml/XmlNodeTree.h"
 
 #include <memory>
+#include <new>
 #include <set>
 #include <string>
 #include <string_view>
@@ -50,6 +51,8 @@ pugi::xml_node Parse(pugi::xml_document& document, const std::string& text)
     const unsigned int options = pugi::parse_default | pugi::parse_fragment;
     const pugi::xml_parse_result result =
         document.load_buffer(text.data(), text.size(), options, pugi::encoding_utf8);
+    if (result.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
     DuplicateFinder duplicates;
     if (!result || !HasOneRootOnly(document) || !document.traverse(duplicates))
         return {};
@@ -80,5 +83,7 @@ WXmlNode WXmlDoc::CreateNode(const OvxStringT& name)
         return {};
     auto tree = std::make_shared<XmlNodeTree>();
     const pugi::xml_node created = tree->document.append_child(OvxUtils::ToUtf8(name).c_str());
+    if (!created)
+        throw std::bad_alloc();
     return {std::move(tree), created.internal_object()};
 }

@@ -5,6 +5,8 @@
 
 #include <pugixml.hpp>
 
+#include <new>
+
 namespace
 {
 
@@ -43,6 +45,8 @@ WXmlNode WXmlNode::CreateChild(const OvxStringT& name)
     if (!IsValid() || name.empty())
         return {};
     const pugi::xml_node child = ElementOf(element).append_child(OvxUtils::ToUtf8(name).c_str());
+    if (!child)
+        throw std::bad_alloc();
     return {tree, child.internal_object()};
 }
 

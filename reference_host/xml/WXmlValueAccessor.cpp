@@ -4,6 +4,7 @@
 #include "reference_host/xml/XmlNodeTree.h"
 
 #include <charconv>
+#include <new>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -40,7 +41,8 @@ void WriteAttribute(void* element, const OvxStringT& address, const std::string&
     pugi::xml_attribute attribute = node.attribute(name.c_str());
     if (!attribute)
         attribute = node.append_attribute(name.c_str());
-    attribute.set_value(value.c_str());
+    if (!attribute.set_value(value.c_str()))
+        throw std::bad_alloc();
 }
 
 } // namespace
