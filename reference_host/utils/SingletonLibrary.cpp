@@ -100,27 +100,30 @@ void Registry::RemoveCallback(std::type_index type, basic_safe_function<void()>:
         std::erase_if(record->withdrawals, [token](const auto& kept) { return kept.GetToken() == token; });
 }
 
+// Nothing is allocated: this runs in destructors of modules that go, where a failure would end the program.
 void Registry::Withdraw(SingletonEntry::Finalizer moduleFinalizer)
 {
-    std::vector<OrphanedData> orphans;
+    for (std::size_t index = 0;; ++index)
     {
-        const std::lock_guard held(mutex);
-        for (const auto& record : records)
+        OrphanedData orphan{};
         {
-            if (record->state != Record::State::Ready || record->entry.finalizer != moduleFinalizer)
+            const std::lock_guard held(mutex);
+            if (index == records.size())
+                return;
+            Record& record = *records[index];
+            if (record.state != Record::State::Ready || record.entry.finalizer != moduleFinalizer)
                 continue;
-            for (const auto& withdrawal : record->withdrawals)
+            for (const auto& withdrawal : record.withdrawals)
                 withdrawal();
-            record->withdrawals.clear();
-            orphans.push_back({record->entry.data.exchange(nullptr), record->entry.deleter});
-            record->entry.deleter = nullptr;
-            record->entry.finalizer = nullptr;
-            record->state = Record::State::Vacant;
+            record.withdrawals.clear();
+            orphan = {record.entry.data.exchange(nullptr), record.entry.deleter};
+            record.entry.deleter = nullptr;
+            record.entry.finalizer = nullptr;
+            record.state = Record::State::Vacant;
         }
-    }
-    // Outside of the lock: a singleton that goes may use others.
-    for (const OrphanedData& orphan : orphans)
+        // Outside of the lock: a singleton that goes may use others.
         orphan.deleter(orphan.data);
+    }
 }
 
 Record* Registry::FindInUse(std::type_index type)
