@@ -320,6 +320,39 @@ TEST_F(EightThreads, GetOneInstanceAfterARelease)
     }
 }
 
+// What is handed out may be released by others at once: it is not looked into here.
+TEST_F(EightThreads, MayMakeAndReleaseItAtTheSameTime)
+{
+    std::barrier start(static_cast<std::ptrdiff_t>(kThreads));
+    std::vector<std::thread> threads;
+
+    for (std::size_t i = 0; i < kThreads; ++i)
+    {
+        threads.emplace_back(
+            [this, &start, i]
+            {
+                const std::array makers{Module(0).instance, Module(1).instance, Module(0).instanceOfLibrary,
+                                        Module(1).instanceOfLibrary};
+                const std::array releasers{Module(0).releaseInstance, Module(1).releaseInstance,
+                                           Module(0).releaseInstanceOfLibrary,
+                                           Module(1).releaseInstanceOfLibrary};
+                start.arrive_and_wait();
+                for (int round = 0; round < 100; ++round)
+                {
+                    if (i % 2 == 0)
+                        static_cast<void>(makers.at(i / 2)());
+                    else
+                        releasers.at(i / 2)(round % 2 == 0);
+                    static_cast<void>(Module(i % 2).hasInstance());
+                }
+            });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+
+    EXPECT_THAT(AskAtOnce(), Each(Module(0).instance()));
+}
+
 TEST_F(EightThreads, SeeNoInstanceWhileNobodyMakesOne)
 {
     std::array<bool, kThreads> seen{};
