@@ -1,6 +1,8 @@
 #include "reference_host/data_binding/UiThread.h"
 
 #include "host/data_binding/IAppEventBroadcaster.h"
+#include "host/data_binding/IBroadcaster.h"
+#include "tests/reference_host/data_binding/BoundNames.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +12,16 @@ using ReferenceHost::UiThread;
 
 namespace
 {
+
+/// Has one bound name, and listeners.
+class Named : public IReflectable, public IBroadcaster
+{
+public:
+    Named()
+    {
+        BoundNames::AddReadOnly<int>(*this, L"Width", [] { return 1; });
+    }
+};
 
 /// Leaves the thread of the tests as the user interface's.
 class InterfaceThread : public ::testing::Test
@@ -63,6 +75,15 @@ TEST_F(InterfaceThread, IsAssertedForEventsInDebugBuilds)
     (void)UiThread::IsCurrent();
 
     EXPECT_DEATH(std::thread([] { UiThreadPolicy::Check(); }).join(), "user interface's thread");
+}
+
+TEST_F(InterfaceThread, IsAssertedForBoundNamesAndListenersInDebugBuilds)
+{
+    (void)UiThread::IsCurrent();
+    Named named;
+
+    EXPECT_DEATH(std::thread([&] { (void)named.ReadAny(L"Width"); }).join(), "user interface's thread");
+    EXPECT_DEATH(std::thread([&] { named.UpdateListeners(L"Width"); }).join(), "user interface's thread");
 }
 
 #endif
