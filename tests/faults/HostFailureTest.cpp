@@ -6,6 +6,7 @@
 #include "host/utils/Singleton.h"
 #include "host/utils/WDictionary.h"
 #include "reference_host/services/AtomicFile.h"
+#include "tests/faults/FailEach.h"
 #include "tests/faults/FailingAllocations.h"
 #include "tests/reference_host/document/ScratchFolder.h"
 
@@ -15,7 +16,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <new>
 #include <string>
 
 namespace
@@ -24,32 +24,6 @@ namespace
 using FailingAllocations::Countdown;
 using FailingAllocations::CountLive;
 using FailingAllocations::Failing;
-
-/// Lets the allocations of `act` fail one after the other, and looks with `check` after each failure, until
-/// `act` runs through.
-template <class Act, class Check>
-void FailEach(const Act& act, const Check& check)
-{
-    for (std::size_t number = 0;; ++number)
-    {
-        SCOPED_TRACE("allocation " + std::to_string(number));
-        bool hasFailed = false;
-        {
-            const Countdown countdown(number, Failing::AllFrom);
-            try
-            {
-                act();
-            }
-            catch (const std::bad_alloc&)
-            {
-            }
-            hasFailed = Countdown::HasFailed();
-        }
-        if (!hasFailed)
-            return;
-        check();
-    }
-}
 
 class Broadcaster : public IBroadcaster
 {

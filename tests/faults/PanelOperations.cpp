@@ -1,6 +1,9 @@
 #include "tests/faults/PanelOperations.h"
 
 #include "host/data_binding/ID_CString.h"
+#include "host/data_binding/IDataSourceFactory.h"
+#include "host/data_binding/IDataSourceRegistrar.h"
+#include "module/StylesCommon.h"
 #include "tests/datasource/support/Description.h"
 #include "tests/datasource/support/WritingTest.h"
 
@@ -327,6 +330,31 @@ std::vector<PanelOperation> OfWriting()
     };
 }
 
+std::vector<PanelOperation> OfTheLibrary()
+{
+    using S = FaultSubject;
+    const auto release = [](S&) { StylesCommon::ReleaseInstance(false); };
+    return {
+        {"MakesAPanel", OnApplicator,
+         [](S& s)
+         {
+             OpenPanel made;
+             made.SetDataSourceProvider(&s.context);
+             made.Complete();
+         }},
+        {"MakesADialog", OnNothing,
+         [](S& s) {
+             IDataSourceRegistrar::GetInstance().FindFactory(L"StylePresets")->Create(&s.context)->Destroy();
+         }},
+        {"MakesTheSharedInstance", release, [](S& s) { StylesCommon::GetInstance().Initialize(&s.app); }},
+        {"ReleasesTheSharedInstance", OnNothing, release},
+        {"AsksForTheSharedInstance", release, [](S&) { static_cast<void>(StylesCommon::HasInstance()); }},
+        {"AsksForTheApplication", OnNothing, [](S&) { static_cast<void>(StylesCommon::GetApp()); }},
+        {"AsksForServices", OnNothing, [](S&) { static_cast<void>(StylesCommon::StylesApp()); }},
+        {"AsksForTheSource", OnNothing, [](S&) { static_cast<void>(StylesCommon::GetActiveStyleSource()); }},
+    };
+}
+
 std::vector<PanelOperation> OfTheDialog()
 {
     using S = FaultSubject;
@@ -362,7 +390,7 @@ void PrintTo(const PanelOperation& operation, std::ostream* out)
 std::vector<PanelOperation> PanelOperations()
 {
     std::vector<PanelOperation> all = BoundNames();
-    for (const auto& rows : {OfTargets(), OfWriting(), OfTheDialog()})
+    for (const auto& rows : {OfTargets(), OfWriting(), OfTheLibrary(), OfTheDialog()})
         all.insert(all.end(), rows.begin(), rows.end());
     return all;
 }
