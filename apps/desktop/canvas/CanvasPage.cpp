@@ -11,7 +11,6 @@
 #include <array>
 #include <cstddef>
 #include <map>
-#include <ranges>
 #include <utility>
 
 namespace Desktop
@@ -86,12 +85,9 @@ void CanvasPage::Paint(QPainter& painter, const QRectF& visible)
 
 DrawingObject* CanvasPage::FindAt(QPointF point, double tolerance)
 {
-    for (CanvasShape& shape : std::views::reverse(shapes))
-    {
-        if (shape.IsAt(point, tolerance))
-            return shape.GetPicture().object;
-    }
-    return nullptr;
+    const auto isHere = [&](CanvasShape& shape) { return shape.IsAt(point, tolerance); };
+    const auto topmost = std::find_if(shapes.rbegin(), shapes.rend(), isHere);
+    return topmost == shapes.rend() ? nullptr : topmost->GetPicture().object;
 }
 
 ObjectSet CanvasPage::FindWithin(const QRectF& rectangle) const
