@@ -36,6 +36,7 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
     reference_host/document/Drawing.h
     reference_host/document/DrawingObject.h
     reference_host/document/DrawingPage.h
+    reference_host/document/OverwriteRefusal.h
     reference_host/document/Progress.h
     reference_host/document/PropertyMapping.h
     reference_host/document/TextUnit.h

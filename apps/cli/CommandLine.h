@@ -35,12 +35,14 @@ struct StylesOptions
     DrawingOptions drawing;
 };
 
-/// Where an edited drawing goes: one of these, and a backup in place only.
+/// Where an edited drawing goes: one of these. A backup is kept in place only, and nothing is forced in a dry
+/// run.
 struct OutputOptions
 {
     std::filesystem::path target; ///< A file of its own; empty without one.
     bool isInPlace = false;
     bool keepsBackup = false;
+    bool isForced = false;
     bool isDryRun = false;
 };
 

@@ -13,6 +13,7 @@
 #include "apps/workbench/Selector.h"
 #include "apps/workbench/Session.h"
 #include "host/utils/Utf8.h"
+#include "reference_host/document/OverwriteRefusal.h"
 
 #include <filesystem>
 #include <functional>
@@ -23,6 +24,24 @@ namespace Cli
 {
 namespace
 {
+
+/// Saves the drawing, and where that is refused tells what does it all the same.
+std::vector<std::filesystem::path> SaveAs(Workbench::Editor& editor, const std::filesystem::path& target,
+                                          const OutputOptions& output, std::vector<std::string>& warnings)
+{
+    ReferenceHost::SaveOptions options;
+    options.keepBackup = output.keepsBackup;
+    options.force = output.isForced;
+    try
+    {
+        return editor.Save(target, options, warnings);
+    }
+    catch (const ReferenceHost::OverwriteRefusal& refusal)
+    {
+        throw ReferenceHost::DocumentError(refusal.GetProblem(), refusal.GetWhere(),
+                                           refusal.GetExpected() + ", or --force to replace it all the same");
+    }
+}
 
 /// Saves where the options say. In place, a drawing without a step is left alone.
 ///
@@ -35,7 +54,7 @@ void Save(Workbench::Editor& editor, const EditedDrawing& edited, EditResult& re
     const std::filesystem::path target =
         output.isInPlace ? std::filesystem::path(edited.drawing.file) : output.target;
     std::vector<std::string> warnings;
-    result.savedSheets = editor.Save(target, output.keepsBackup, warnings);
+    result.savedSheets = SaveAs(editor, target, output, warnings);
     result.savedAs = target;
     WriteWarnings(warnings);
 }

@@ -32,6 +32,9 @@ void DeclareOutput(CLI::App& command, OutputOptions& output)
         ->option_text("OUT");
     command.add_flag("--in-place", output.isInPlace, "Write the changed drawing over FILE");
     command.add_flag("--backup", output.keepsBackup, "Keep what FILE was as FILE~; with --in-place");
+    command.add_flag("--force", output.isForced,
+                     "Replace the file also when that loses somebody else's changes, its further names, its "
+                     "protection or its owner");
     command.add_flag("--dry-run", output.isDryRun, "Tell what would change, and write nothing");
 }
 
@@ -51,6 +54,8 @@ void CheckOutput(const OutputOptions& output, const std::string& verb)
                          help);
     if (output.keepsBackup && !output.isInPlace)
         throw UsageError("--backup keeps what a file was; expected it beside --in-place" + help);
+    if (output.isForced && output.isDryRun)
+        throw UsageError("--force replaces a file; expected it beside -o OUT or --in-place" + help);
 }
 
 /// The command that holds the commands of a group; made with the first of them.

@@ -65,10 +65,13 @@ void WriteWarnings(const std::vector<std::string>& warnings)
         WriteErrorLine("warning: " + warning);
 }
 
-void OutliveClosedPipes()
+void OutliveFailedWrites()
 {
 #if defined(SIGPIPE)
     std::signal(SIGPIPE, SIG_IGN);
+#endif
+#if defined(SIGXFSZ)
+    std::signal(SIGXFSZ, SIG_IGN);
 #endif
 }
 

@@ -142,7 +142,7 @@ int Run(const InformationText& information)
 
 int RunTool(int argumentCount, const char* const* arguments)
 {
-    OutliveClosedPipes();
+    OutliveFailedWrites();
     try
     {
         return std::visit([](const auto& command) { return Run(command); },

@@ -164,7 +164,8 @@ bool Document::Save(const std::filesystem::path& target)
     const auto save = [&](const ReferenceHost::ProgressListener& listener)
     {
         std::vector<std::string> told;
-        const std::vector<std::filesystem::path> sheets = editor->Save(target, keepsBackup, told, listener);
+        const std::vector<std::filesystem::path> sheets =
+            editor->Save(target, {.keepBackup = keepsBackup, .progress = listener}, told);
         warnings = ToQStrings(told);
         path = target;
         savedStep = editor->GetStepCount();

@@ -81,14 +81,11 @@ std::vector<Change> Editor::DescribeChanges()
     return workings->ledger.Describe();
 }
 
-std::vector<std::filesystem::path> Editor::Save(const std::filesystem::path& target, bool keepBackup,
-                                                std::vector<std::string>& warnings,
-                                                const ReferenceHost::ProgressListener& progress)
+std::vector<std::filesystem::path> Editor::Save(const std::filesystem::path& target,
+                                                const ReferenceHost::SaveOptions& options,
+                                                std::vector<std::string>& warnings)
 {
     workings->DemandNoGroup("saving");
-    ReferenceHost::SaveOptions options;
-    options.keepBackup = keepBackup;
-    options.progress = progress;
     return workings->session.GetDrawing().Save(target, options, warnings);
 }
 

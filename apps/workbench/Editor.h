@@ -146,16 +146,16 @@ public:
 
     /// Saves the drawing as it is now, and before it the style sheets whose styles were changed.
     ///
-    /// @param target     replaced as a whole or not at all; may be the file that was opened.
-    /// @param keepBackup what each file was is kept beside it, with "~" behind its name.
-    /// @param warnings   receives one line in UTF-8 for everything that the file cannot hold.
-    /// @param progress   is told how far it is, and may stop it; all is as it was then.
+    /// @param target   replaced as a whole or not at all; may be the file that was opened.
+    /// @param options  hold for each of the files; their listener may stop it, and all is as it was then.
+    /// @param warnings receives one line in UTF-8 for everything that the file cannot hold.
     /// @returns the files of style sheets that were written.
-    /// @throws ReferenceHost::DocumentError when it cannot be written; EditError while a group is open;
-    ///         ReferenceHost::OperationCancelled.
-    std::vector<std::filesystem::path> Save(const std::filesystem::path& target, bool keepBackup,
-                                            std::vector<std::string>& warnings,
-                                            const ReferenceHost::ProgressListener& progress = {});
+    /// @throws ReferenceHost::OverwriteRefusal when replacing a file would lose something and the options do
+    ///         not force it, see ReferenceHost::Drawing::Save(); ReferenceHost::DocumentError when it cannot
+    ///         be written; EditError while a group is open; ReferenceHost::OperationCancelled.
+    std::vector<std::filesystem::path> Save(const std::filesystem::path& target,
+                                            const ReferenceHost::SaveOptions& options,
+                                            std::vector<std::string>& warnings);
 
     /// What the sources of this class share; for these alone.
     struct Workings;

@@ -1,5 +1,7 @@
 #include "reference_host/document/DocumentError.h"
 
+#include "reference_host/document/OverwriteRefusal.h"
+
 #include <algorithm>
 
 namespace ReferenceHost
@@ -27,5 +29,7 @@ DocumentError::DocumentError(const std::string& what, const std::string& place, 
 }
 
 DocumentError::~DocumentError() = default;
+
+OverwriteRefusal::~OverwriteRefusal() = default;
 
 } // namespace ReferenceHost

@@ -30,6 +30,7 @@ class History;
 struct SaveOptions
 {
     bool keepBackup = false;        ///< A file that is there already is kept as "NAME~".
+    bool force = false;             ///< Also a file that OverwriteRefusal protects is replaced.
     ProgressListener progress = {}; ///< Is told how far it is, and may stop it.
 };
 
@@ -198,6 +199,10 @@ public:
     /// drawing.
     ///
     /// @returns the files of style sheets that were written.
+    /// @throws OverwriteRefusal for a file that somebody else has changed since it was read or last saved,
+    /// that
+    ///         has further names (hard links), that is protected against writing, or whose owner cannot be
+    ///         kept. Nothing is written then unless the options force it.
     /// @throws DocumentError also when `target` is a style sheet of the drawing, or a changed one is no
     /// longer
     ///         the file that was read; no file is another than before then. Only where a file cannot take its

@@ -5,6 +5,7 @@
 #include "reference_host/document/DrawingFile.h"
 #include "reference_host/document/DrawingSettling.h"
 #include "reference_host/document/ExternalSheets.h"
+#include "reference_host/document/KnownFiles.h"
 #include "reference_host/document/NamedStyles.h"
 #include "reference_host/document/PropertyCodecs.h"
 #include "reference_host/document/PropertyMappings.h"
@@ -39,6 +40,7 @@ struct DrawingData
 
     std::filesystem::path path;
     DrawingFile file;                        ///< The bytes as they were read: edits are spliced into them.
+    KnownFiles saved;                        ///< Where the drawing was saved, and as what.
     std::vector<PropertyMapping> extensions; ///< Properties beyond the built-in ones.
     PropertyMappings table;
     std::vector<PaletteEntry> palette;

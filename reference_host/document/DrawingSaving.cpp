@@ -1,9 +1,10 @@
 // How a drawing gets back to disk: the bytes come from the DrawingWriter, the file from the services.
 #include "reference_host/document/Drawing.h"
+#include "reference_host/document/DrawingData.h"
 #include "reference_host/document/DrawingWriter.h"
 #include "reference_host/document/ExternalSheetSaving.h"
+#include "reference_host/document/FileReplacing.h"
 #include "reference_host/document/ProgressMeter.h"
-#include "reference_host/services/AtomicFile.h"
 
 namespace ReferenceHost
 {
@@ -14,6 +15,16 @@ namespace
 // Which share of the work is done after each stage.
 constexpr double kSerialised = 0.85;
 constexpr double kSheetsStaged = 0.9;
+
+/// What a file held when this drawing was last saved there, or read from it; none for any other file.
+std::optional<FileDigest> FindKnownBytes(const DrawingData& data, const std::filesystem::path& target)
+{
+    if (std::optional<FileDigest> saved = data.saved.Find(target))
+        return saved;
+    std::error_code ignored;
+    const bool isOpened = std::filesystem::equivalent(target, data.path, ignored);
+    return isOpened ? std::optional(DigestOf(data.file.bytes)) : std::nullopt;
+}
 
 } // namespace
 
@@ -36,24 +47,15 @@ std::vector<std::filesystem::path> Drawing::Save(const std::filesystem::path& ta
     const ProgressSpan whole(meter);
     const std::string bytes =
         DrawingWriter(*data, warnings, target.parent_path()).Write(whole.Part(0, kSerialised));
-    const Backup backup = options.keepBackup ? Backup::Keep : Backup::None;
-    try
-    {
-        ExternalSheetSaving sheets(data->sheets, target, warnings,
-                                   whole.Part(ProgressPhase::StyleSheets, kSerialised, kSheetsStaged));
-        ProgressSpan writing = whole.Part(ProgressPhase::Writing, kSheetsStaged, 1);
-        writing.Start(bytes.size());
-        StagedFile file(target, bytes, [&writing](std::size_t written) { writing.Reach(written); });
-        meter.Finish();
-        std::vector<std::filesystem::path> written = sheets.TakePlaces(backup);
-        file.TakePlace(backup);
-        return written;
-    }
-    catch (const std::system_error& error)
-    {
-        throw DocumentError(std::string("the drawing cannot be saved (") + error.what() + ")",
-                            target.string(), "a folder that can be written to, with enough room");
-    }
+    ExternalSheetSaving sheets(data->sheets, target, options, warnings,
+                               whole.Part(ProgressPhase::StyleSheets, kSerialised, kSheetsStaged));
+    FileReplacing file({"drawing", target, FindKnownBytes(*data, target)}, bytes, options,
+                       whole.Part(ProgressPhase::Writing, kSheetsStaged, 1));
+    meter.Finish();
+    std::vector<std::filesystem::path> written = sheets.TakePlaces();
+    file.TakePlace();
+    data->saved.Note(target, bytes);
+    return written;
 }
 
 } // namespace ReferenceHost

@@ -2,6 +2,7 @@
 
 #include "reference_host/document/DrawingData.h"
 #include "reference_host/document/DrawingWriter.h"
+#include "reference_host/document/FileReplacing.h"
 
 #include <system_error>
 #include <utility>
@@ -27,15 +28,6 @@ const std::string& KnownBytes(const ExternalSheet& sheet)
     return sheet.savedBytes ? *sheet.savedBytes : sheet.data->file.bytes;
 }
 
-/// @throws DocumentError when the file is another than the one that was read.
-void DemandUnchangedFile(const ExternalSheet& sheet)
-{
-    if (ReadDrawingFile(sheet.data->path).bytes != KnownBytes(sheet))
-        throw DocumentError("the style sheet has been changed by somebody else since it was opened",
-                            sheet.data->path.string(),
-                            "the file as it was; open the drawing again and repeat the edit");
-}
-
 /// The bytes of the sheet as its styles stand now.
 std::string BytesOf(const ExternalSheet& sheet, std::vector<std::string>& warnings,
                     const ProgressSpan& progress)
@@ -47,25 +39,11 @@ std::string BytesOf(const ExternalSheet& sheet, std::vector<std::string>& warnin
     return bytes;
 }
 
-/// Does what may fail with one sheet.
-template <class Work>
-auto Attempt(const ExternalSheet& sheet, const Work& work)
-{
-    try
-    {
-        return work();
-    }
-    catch (const std::system_error& error)
-    {
-        throw DocumentError(std::string("the style sheet cannot be saved (") + error.what() + ")",
-                            sheet.data->path.string(), "a folder that can be written to, with enough room");
-    }
-}
-
 } // namespace
 
 ExternalSheetSaving::ExternalSheetSaving(const ExternalSheets& sheets, const std::filesystem::path& target,
-                                         std::vector<std::string>& warnings, const ProgressSpan& progress)
+                                         const SaveOptions& options, std::vector<std::string>& warnings,
+                                         const ProgressSpan& progress)
 {
     ProgressPieces pieces(progress, sheets.GetAll().size());
     for (const std::unique_ptr<ExternalSheet>& sheet : sheets.GetAll())
@@ -75,31 +53,28 @@ ExternalSheetSaving::ExternalSheetSaving(const ExternalSheets& sheets, const std
         const bool mayDiffer =
             sheet->link.isEditable && sheet->journal != nullptr && sheet->journal->HasHeard();
         if (mayDiffer)
-            Add(*sheet, warnings, saving);
+            Add(*sheet, options, warnings, saving);
     }
 }
 
-void ExternalSheetSaving::Add(ExternalSheet& sheet, std::vector<std::string>& warnings,
-                              const ProgressSpan& progress)
+void ExternalSheetSaving::Add(ExternalSheet& sheet, const SaveOptions& options,
+                              std::vector<std::string>& warnings, const ProgressSpan& progress)
 {
     constexpr double kSerialised = 0.9;
     std::string bytes = BytesOf(sheet, warnings, progress.Part(0, kSerialised));
     if (bytes == KnownBytes(sheet))
         return;
-    DemandUnchangedFile(sheet);
-    ProgressSpan writing = progress.Part(ProgressPhase::Writing, kSerialised, 1);
-    writing.Start(bytes.size());
-    const auto tell = [&writing](std::size_t written) { writing.Reach(written); };
-    StagedFile file = Attempt(sheet, [&] { return StagedFile(sheet.data->path, bytes, tell); });
+    FileReplacing file({"style sheet", sheet.data->path, DigestOf(KnownBytes(sheet))}, bytes, options,
+                       progress.Part(ProgressPhase::Writing, kSerialised, 1));
     changed.push_back({&sheet, std::move(bytes), std::move(file)});
 }
 
-std::vector<std::filesystem::path> ExternalSheetSaving::TakePlaces(Backup backup)
+std::vector<std::filesystem::path> ExternalSheetSaving::TakePlaces()
 {
     std::vector<std::filesystem::path> written;
     for (Changed& each : changed)
     {
-        Attempt(*each.sheet, [&] { each.file.TakePlace(backup); });
+        each.file.TakePlace();
         each.sheet->savedBytes = std::move(each.bytes);
         written.push_back(each.sheet->data->path);
     }

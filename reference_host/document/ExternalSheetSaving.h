@@ -1,8 +1,8 @@
 #pragma once
 
 #include "reference_host/document/ExternalSheets.h"
+#include "reference_host/document/FileReplacing.h"
 #include "reference_host/document/ProgressMeter.h"
-#include "reference_host/services/AtomicFile.h"
 
 #include <filesystem>
 #include <string>
@@ -22,26 +22,28 @@ public:
     ///
     /// @param target   where the drawing is about to be saved.
     /// @param warnings receives what the files cannot hold.
-    /// @throws DocumentError when `target` is one of the sheets, or somebody else has changed the file of a
-    ///         changed sheet since it was read or saved, or one cannot be written.
+    /// @throws DocumentError when `target` is one of the sheets, or one cannot be written.
+    /// @throws OverwriteRefusal when the file of a changed sheet may not be replaced, see Drawing::Save().
     ExternalSheetSaving(const ExternalSheets& sheets, const std::filesystem::path& target,
-                        std::vector<std::string>& warnings, const ProgressSpan& progress);
+                        const SaveOptions& options, std::vector<std::string>& warnings,
+                        const ProgressSpan& progress);
 
     /// Lets the changed sheets take the places of their files.
     ///
     /// @returns the files that were written.
     /// @throws DocumentError for the first that cannot take its place; those before it are saved.
-    std::vector<std::filesystem::path> TakePlaces(Backup backup);
+    std::vector<std::filesystem::path> TakePlaces();
 
 private:
     struct Changed
     {
         ExternalSheet* sheet;
         std::string bytes;
-        StagedFile file;
+        FileReplacing file;
     };
 
-    void Add(ExternalSheet& sheet, std::vector<std::string>& warnings, const ProgressSpan& progress);
+    void Add(ExternalSheet& sheet, const SaveOptions& options, std::vector<std::string>& warnings,
+             const ProgressSpan& progress);
 
     std::vector<Changed> changed;
 };

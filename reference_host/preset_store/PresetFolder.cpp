@@ -149,7 +149,7 @@ bool PresetFolder::Add(const OvxStringT& name, const std::string& fileName, cons
             return false;
         if (file.empty())
             file = folder / (fileName + kExtension);
-        WriteFileAtomically(file, FormatPreset(name, style), Backup::None);
+        WriteFileAtomically(file, FormatPreset(name, style));
         return true;
     }
     catch (const std::bad_alloc&)

@@ -1,9 +1,12 @@
 #include "reference_host/services/AtomicFile.h"
 
+#include "reference_host/services/FileTurn.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -87,7 +90,8 @@ void KeepBackup(const Path& file)
 
 #if defined(_WIN32)
 
-Leftover WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::Written& written)
+Leftover WriteTemporary(const Path& file, std::string_view bytes, Ownership /*ownership*/,
+                        const StagedFile::Written& written)
 {
     Path temporary = file;
     temporary += ".new";
@@ -160,30 +164,57 @@ void WriteAll(int descriptor, std::string_view bytes, const StagedFile::Written&
     }
 }
 
-/// Gives a new file the permissions, and as far as possible the owner, of the one that it replaces; or those
-/// that new files get.
-void TakeOver(int descriptor, const Path& old)
+/// Gives a new file the permissions that new files get.
+void TakeUsualPermissions(int descriptor)
 {
-    struct stat status
+    const mode_t mask = umask(0);
+    umask(mask);
+    constexpr mode_t kReadAndWrite = 0666;
+    if (fchmod(descriptor, kReadAndWrite & ~mask) != 0)
+        Fail("the permissions cannot be set");
+}
+
+/// Gives a new file the owner and group of the one that it replaces. Only some may give files away; the group
+/// alone often can be kept.
+void TakeOwner(int descriptor, const struct stat& old, Ownership ownership)
+{
+    struct stat made
     {
     };
 
-    if (stat(old.c_str(), &status) != 0)
-    {
-        const mode_t mask = umask(0);
-        umask(mask);
-        constexpr mode_t kReadAndWrite = 0666;
-        if (fchmod(descriptor, kReadAndWrite & ~mask) != 0)
-            Fail("the permissions cannot be set");
+    const bool isSame =
+        fstat(descriptor, &made) == 0 && made.st_uid == old.st_uid && made.st_gid == old.st_gid;
+    if (isSame || fchown(descriptor, old.st_uid, old.st_gid) == 0)
         return;
-    }
-    // Only some may give files away. The group alone often can be kept.
-    if (fchown(descriptor, status.st_uid, status.st_gid) != 0 &&
-        fchown(descriptor, static_cast<uid_t>(-1), status.st_gid) != 0)
+    if (ownership == Ownership::Keep)
+        throw OwnerCannotBeKept(errno, std::generic_category(), "it belongs to others");
+    if (fchown(descriptor, static_cast<uid_t>(-1), old.st_gid) != 0)
         errno = 0;
+}
+
+/// Gives a new file what the one that it replaces has beside its bytes; or what new files get.
+void TakeOver(int descriptor, const Path& file, Ownership ownership)
+{
+    struct stat old
+    {
+    };
+
+    if (stat(file.c_str(), &old) != 0)
+        return TakeUsualPermissions(descriptor);
+    TakeOwner(descriptor, old, ownership);
     constexpr mode_t kAllPermissions = 07777;
-    if (fchmod(descriptor, status.st_mode & kAllPermissions) != 0)
+    if (fchmod(descriptor, old.st_mode & kAllPermissions) != 0)
         Fail("the permissions cannot be kept");
+}
+
+/// A name for a temporary file beside another, for mkstemp. Names have a limit, which that of the file may
+/// reach already.
+std::string TemporaryName(const Path& file)
+{
+    constexpr std::size_t kLongestSpeakingName = 200;
+    const std::string name = file.filename().string();
+    return (FolderOf(file) / ("." + (name.size() > kLongestSpeakingName ? "saving" : name) + ".XXXXXX"))
+        .string();
 }
 
 /// Takes charge of a file that was just made.
@@ -200,15 +231,16 @@ Leftover TakeCharge(const std::string& name)
     }
 }
 
-Leftover WriteTemporary(const Path& file, std::string_view bytes, const StagedFile::Written& written)
+Leftover WriteTemporary(const Path& file, std::string_view bytes, Ownership ownership,
+                        const StagedFile::Written& written)
 {
-    std::string name = (FolderOf(file) / ("." + file.filename().string() + ".XXXXXX")).string();
-    Descriptor descriptor(mkstemp(name.data()));
+    std::string name = TemporaryName(file);
+    Descriptor descriptor(mkostemp(name.data(), O_CLOEXEC));
     if (descriptor.Get() < 0)
         Fail("no file can be made beside it");
     Leftover leftover = TakeCharge(name);
     WriteAll(descriptor.Get(), bytes, written);
-    TakeOver(descriptor.Get(), file);
+    TakeOver(descriptor.Get(), file, ownership);
     if (fsync(descriptor.Get()) != 0 || !descriptor.Close())
         Fail("the bytes cannot be written");
     return leftover;
@@ -226,14 +258,17 @@ void FlushFolder(const Path& folder)
 
 } // namespace
 
-StagedFile::StagedFile(const Path& target, std::string_view bytes, const Written& written)
+OwnerCannotBeKept::~OwnerCannotBeKept() = default;
+
+StagedFile::StagedFile(const Path& target, std::string_view bytes, Ownership ownership,
+                       const Written& written)
     : file(FollowLinks(target))
 {
     const auto status = std::filesystem::status(file);
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
         throw std::system_error(std::make_error_code(std::errc::invalid_argument),
                                 "what is there is no regular file");
-    temporary = WriteTemporary(file, bytes, written).Release();
+    temporary = WriteTemporary(file, bytes, ownership, written).Release();
 }
 
 StagedFile::StagedFile(StagedFile&& other) noexcept
@@ -246,10 +281,16 @@ StagedFile::~StagedFile()
     const Leftover removed(std::move(temporary));
 }
 
-void StagedFile::TakePlace(Backup backup)
+void StagedFile::TakePlace(Backup backup, const Check& check)
 {
     // What may fail comes before the file is in its place.
     const Path folder = FolderOf(file);
+    std::optional<FileTurn> turn;
+    if (check)
+    {
+        turn.emplace(file);
+        check(file);
+    }
     if (backup == Backup::Keep && std::filesystem::exists(file))
         KeepBackup(file);
     std::filesystem::rename(temporary, file);

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
+#include <sys/resource.h>
 
 using CliTests::EditedBoxes;
 using CliTests::OutputKind;
@@ -40,6 +42,26 @@ protected:
         EXPECT_EQ(drawing.Bytes(), before);
         return result.error;
     }
+};
+
+/// Lets no program that is started grow a file beyond some bytes: what a full disk does to it.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &old);
+        const rlimit limit{bytes, old.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+    ~FileSizeLimit() { setrlimit(RLIMIT_FSIZE, &old); }
+
+private:
+    rlimit old{};
 };
 
 } // namespace
@@ -107,6 +129,32 @@ TEST_F(RefusedEdit, NamesTheFileThatCannotBeWritten)
     }
     EXPECT_THAT(nowhere.error, HasSubstr("/no/folder/out.fodg"));
     EXPECT_EQ(drawing.Bytes(), before);
+}
+
+TEST_F(RefusedEdit, IsOneOfAFileWithFurtherNamesUnlessForced)
+{
+    std::filesystem::create_hard_link(drawing.GetFile(), drawing.Beside("second.fodg"));
+
+    EXPECT_THAT(Refuse(1, "set", {"fill.color=#112233"}),
+                AllOf(HasSubstr("further names (hard links)"), HasSubstr("--force")));
+
+    EXPECT_EQ(Run("set", {"fill.color=#112233", "--in-place", "--force"}).status, 0);
+    EXPECT_EQ(Row("name:Box", "fill", "color"), "#112233 Overridden local");
+}
+
+TEST_F(RefusedEdit, SaysThatTheDiskIsFullAndLeavesNothingBehind)
+{
+    const std::string before = drawing.Bytes();
+    const FileSizeLimit limit(100);
+
+    const ToolResult result = Run("set", {"fill.color=#112233", "--in-place"});
+
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(drawing.Bytes(), before);
+    EXPECT_EQ(
+        std::distance(
+            std::filesystem::directory_iterator(std::filesystem::path(drawing.GetFile()).parent_path()), {}),
+        1);
 }
 
 TEST_F(RefusedEdit, IsNotOneWhoseReportCannotBeWritten)

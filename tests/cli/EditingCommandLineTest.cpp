@@ -149,6 +149,13 @@ TEST(EditingCommandLine, KeepsABackupInPlaceOnly)
                 HasSubstr("beside --in-place"));
 }
 
+TEST(EditingCommandLine, ForcesWhereSomethingIsWrittenOnly)
+{
+    EXPECT_FALSE(ParseEdit({"clear", "a", "fill.color", "-o", "b"}).edited.output.isForced);
+    EXPECT_TRUE(ParseEdit({"clear", "a", "fill.color", "-o", "b", "--force"}).edited.output.isForced);
+    EXPECT_THAT(ErrorOf({"clear", "a", "fill.color", "--dry-run", "--force"}), HasSubstr("beside -o OUT"));
+}
+
 TEST(EditingCommandLine, RefusesWhatIsNotOfACommand)
 {
     EXPECT_THAT(ErrorOf({"set", "a", "--dry-run"}), HasSubstr("see styleprops set --help"));

@@ -127,7 +127,7 @@ TEST_F(GroupOfEdits, AllowsNothingThatWouldCutIt)
     EXPECT_THROW(editor.Undo(), EditError);
     EXPECT_THROW(editor.Redo(), EditError);
     EXPECT_THROW(editor.EditStyle(L"fill"), EditError);
-    EXPECT_THROW(editor.Save("never.fodg", false, warnings), EditError);
+    EXPECT_THROW(editor.Save("never.fodg", {}, warnings), EditError);
     EXPECT_TRUE(editor.IsGroupOpen());
 }
 

@@ -26,7 +26,7 @@ class SavingWhatWasEdited : public EditorOnFourBoxes
 protected:
     void Save()
     {
-        editor.Save(saved, false, warnings);
+        editor.Save(saved, {}, warnings);
         EXPECT_THAT(warnings, IsEmpty());
     }
 
@@ -91,7 +91,7 @@ TEST_F(SavingWhatWasEdited, KeepsTheOldFileWhereThatIsAsked)
 {
     folder.Write("saved.fodg", "old");
 
-    editor.Save(saved, true, warnings);
+    editor.Save(saved, {.keepBackup = true}, warnings);
 
     EXPECT_EQ(ReadFile(folder.GetPath() / "saved.fodg~"), "old");
     EXPECT_EQ(ReadFile(saved), original);
@@ -99,7 +99,7 @@ TEST_F(SavingWhatWasEdited, KeepsTheOldFileWhereThatIsAsked)
 
 TEST_F(SavingWhatWasEdited, FailsWhereNothingCanBeWritten)
 {
-    EXPECT_THROW(editor.Save(folder.GetPath() / "missing" / "saved.fodg", false, warnings),
+    EXPECT_THROW(editor.Save(folder.GetPath() / "missing" / "saved.fodg", {}, warnings),
                  ReferenceHost::DocumentError);
 }
 

@@ -44,7 +44,7 @@ protected:
 
     std::vector<std::filesystem::path> Save()
     {
-        return open->editor.Save(folder.PathOf("drawing.fodg"), false, warnings);
+        return open->editor.Save(folder.PathOf("drawing.fodg"), {}, warnings);
     }
 
     FlatDrawing sheet = HouseSheet().Styles("<draw:gradient draw:name='Dusk'/>");

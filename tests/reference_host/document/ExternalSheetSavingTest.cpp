@@ -213,6 +213,39 @@ TEST_F(SavedSheets, AreRefusedWhenSomebodyElseHasChangedThem)
     EXPECT_EQ(folder.Bytes("drawing.fodg"), EditingDrawing().Text());
 }
 
+TEST_F(SavedSheets, WithFurtherNamesAreRefusedBeforeAnythingIsWritten)
+{
+    EditTheSheet();
+    Set(opened.Object(L"1/1")->GetStyle(), "fill.color", ColourValue(1, 2, 3));
+    fs::create_hard_link(folder.PathOf("house.fodg"), folder.PathOf("second.fodg"));
+
+    EXPECT_THAT(ErrorOfSaving("drawing.fodg"), HasSubstr("house.fodg: the file has further names"));
+
+    EXPECT_EQ(folder.Bytes("house.fodg"), HouseSheet().Text());
+    EXPECT_EQ(folder.Bytes("drawing.fodg"), EditingDrawing().Text());
+}
+
+TEST_F(SavedSheets, StayAsTheyAreWhenTheDrawingIsRefused)
+{
+    EditTheSheet();
+    folder.WriteBytes("drawing.fodg", "theirs");
+
+    EXPECT_THAT(ErrorOfSaving("drawing.fodg"), HasSubstr("drawing.fodg: the drawing has been changed by"));
+
+    EXPECT_EQ(folder.Bytes("house.fodg"), HouseSheet().Text());
+    EXPECT_EQ(folder.Bytes("drawing.fodg"), "theirs");
+}
+
+TEST_F(SavedSheets, AreReplacedByForce)
+{
+    EditTheSheet();
+    folder.WriteBytes("house.fodg", "theirs");
+
+    opened.drawing->Save(folder.PathOf("drawing.fodg"), {.force = true}, opened.warnings);
+
+    EXPECT_EQ(Difference(HouseSheet().Text(), folder.Bytes("house.fodg")), "00aa00 -> 123456");
+}
+
 TEST_F(SavedSheets, MayBeChangedByOthersAsLongAsTheyAreNotEdited)
 {
     folder.WriteBytes("house.fodg", HouseSheet().Text() + "<!-- theirs -->");
