@@ -63,6 +63,15 @@ bool BearsItsName(const std::filesystem::path& file, const OvxStringT& name)
     return PathToUtf8(file.stem()) == MakePresetFileName(name);
 }
 
+/// A file for a new preset. One that is there already is somebody's, also a damaged one.
+std::filesystem::path FindFreeFile(const std::filesystem::path& folder, const std::string& fileName)
+{
+    std::filesystem::path file = folder / (fileName + kExtension);
+    for (int number = 2; std::filesystem::exists(std::filesystem::symlink_status(file)); ++number)
+        file = folder / (fileName + "-" + std::to_string(number) + kExtension);
+    return file;
+}
+
 } // namespace
 
 std::vector<PresetFolder::Entry> PresetFolder::Read() const
@@ -103,6 +112,7 @@ std::vector<PresetFolder::Entry> PresetFolder::Read() const
 
 std::vector<OvxStringT> PresetFolder::ListNames() const
 {
+    const FolderLock lock(folder, LockKind::Shared);
     std::vector<OvxStringT> names;
     for (Entry& entry : Read())
         names.push_back(std::move(entry.name));
@@ -111,11 +121,13 @@ std::vector<OvxStringT> PresetFolder::ListNames() const
 
 bool PresetFolder::Contains(const OvxStringT& name) const
 {
+    const FolderLock lock(folder, LockKind::Shared);
     return !FindFile(name).empty();
 }
 
 std::unique_ptr<Styles::Style> PresetFolder::Load(const OvxStringT& name) const
 {
+    const FolderLock lock(folder, LockKind::Shared);
     std::vector<Entry> entries = Read();
     const auto found = std::ranges::find(entries, name, &Entry::name);
     return found == entries.end() ? nullptr : std::move(found->style);
@@ -123,6 +135,7 @@ std::unique_ptr<Styles::Style> PresetFolder::Load(const OvxStringT& name) const
 
 std::map<OvxStringT, std::unique_ptr<Styles::Style>> PresetFolder::LoadAll() const
 {
+    const FolderLock lock(folder, LockKind::Shared);
     std::map<OvxStringT, std::unique_ptr<Styles::Style>> presets;
     for (Entry& entry : Read())
         presets.emplace(std::move(entry.name), std::move(entry.style));
@@ -143,12 +156,12 @@ bool PresetFolder::Add(const OvxStringT& name, const std::string& fileName, cons
     try
     {
         std::filesystem::create_directories(folder);
-        const FolderLock lock(folder);
+        const FolderLock lock(folder, LockKind::Exclusive);
         std::filesystem::path file = FindFile(name);
         if (!file.empty() && !replace)
             return false;
         if (file.empty())
-            file = folder / (fileName + kExtension);
+            file = FindFreeFile(folder, fileName);
         WriteFileAtomically(file, FormatPreset(name, style));
         return true;
     }
@@ -169,7 +182,7 @@ bool PresetFolder::Remove(const OvxStringT& name) const
     {
         if (!std::filesystem::exists(folder))
             return false;
-        const FolderLock lock(folder);
+        const FolderLock lock(folder, LockKind::Exclusive);
         const std::filesystem::path file = FindFile(name);
         return !file.empty() && std::filesystem::remove(file);
     }

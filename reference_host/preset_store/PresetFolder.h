@@ -17,7 +17,7 @@ namespace ReferenceHost
 ///
 /// The name inside a file counts, not the file's own. A damaged file is reported and passed over, never
 /// changed; of two files with one name the one that bears it counts, else the first by file name, and the
-/// other is reported. Changes are made under a lock and replace files as a whole.
+/// other is reported. Changes are made under a lock and replace files as a whole; readers wait for them.
 class STYLEPROPERTIES_HOST_API PresetFolder
 {
 public:
@@ -35,7 +35,8 @@ public:
     /// Copies of all presets, by name.
     [[nodiscard]] std::map<OvxStringT, std::unique_ptr<Styles::Style>> LoadAll() const;
 
-    /// Keeps a preset in the file `fileName`, or in that which holds the name already. With `replace` false a
+    /// Keeps a preset in the file `fileName`, in one beside it where another preset or a damaged one lies
+    /// there, or in that which holds the name already. With `replace` false a
     /// name that is there is left as it is.
     ///
     /// @returns whether it was kept; what keeps it from that is reported.
@@ -55,6 +56,7 @@ private:
         std::unique_ptr<Styles::Style> style;
     };
 
+    // Under a lock.
     [[nodiscard]] std::vector<Entry> Read() const;
     [[nodiscard]] std::filesystem::path FindFile(const OvxStringT& name) const;
 

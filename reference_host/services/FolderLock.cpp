@@ -32,46 +32,52 @@ constexpr const char* kLockFile = ".lock";
 
 #if defined(_WIN32)
 
-FolderLock::FolderLock(const std::filesystem::path& folder)
-    : file(CreateFileW((folder / kLockFile).c_str(), GENERIC_READ | GENERIC_WRITE,
-                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_HIDDEN,
+FolderLock::FolderLock(const std::filesystem::path& folder, LockKind kind)
+    : file(CreateFileW((folder / kLockFile).c_str(),
+                       kind == LockKind::Shared ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE,
+                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                       kind == LockKind::Shared ? OPEN_EXISTING : OPEN_ALWAYS, FILE_ATTRIBUTE_HIDDEN,
                        nullptr))
 {
     OVERLAPPED whole{};
-    if (file != INVALID_HANDLE_VALUE && LockFileEx(file, LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &whole))
+    const DWORD flags = kind == LockKind::Shared ? 0 : LOCKFILE_EXCLUSIVE_LOCK;
+    if (file != INVALID_HANDLE_VALUE && LockFileEx(file, flags, 0, 1, 0, &whole))
         return;
     const int code = static_cast<int>(GetLastError());
     if (file != INVALID_HANDLE_VALUE)
         CloseHandle(file);
-    FailToLock(folder / kLockFile, code);
+    file = INVALID_HANDLE_VALUE;
+    if (kind == LockKind::Exclusive)
+        FailToLock(folder / kLockFile, code);
 }
 
 FolderLock::~FolderLock()
 {
-    CloseHandle(file);
+    if (file != INVALID_HANDLE_VALUE)
+        CloseHandle(file);
 }
 
 #else
 
-FolderLock::FolderLock(const std::filesystem::path& folder)
-    : file(open((folder / kLockFile).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666))
+FolderLock::FolderLock(const std::filesystem::path& folder, LockKind kind)
+    : file(open((folder / kLockFile).c_str(),
+                kind == LockKind::Shared ? O_RDONLY | O_CLOEXEC : O_RDWR | O_CREAT | O_CLOEXEC, 0666))
 {
-    if (file < 0)
-        FailToLock(folder / kLockFile, errno);
-    while (flock(file, LOCK_EX) != 0)
-    {
-        if (errno == EINTR)
-            continue;
-        const int code = errno;
+    int code = file < 0 ? errno : 0;
+    while (code == 0 && flock(file, kind == LockKind::Shared ? LOCK_SH : LOCK_EX) != 0)
+        code = errno == EINTR ? 0 : errno;
+    if (code == 0 || kind == LockKind::Shared)
+        return;
+    if (file >= 0)
         close(file);
-        FailToLock(folder / kLockFile, code);
-    }
+    FailToLock(folder / kLockFile, code);
 }
 
 // Closing lets go of the lock.
 FolderLock::~FolderLock()
 {
-    close(file);
+    if (file >= 0)
+        close(file);
 }
 
 #endif

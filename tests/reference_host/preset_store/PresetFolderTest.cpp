@@ -124,6 +124,20 @@ TEST_F(PresetsInAFolder, ArePassedOverAndReportedWhenTheyAreDamagedAndNeverDelet
     EXPECT_TRUE(std::filesystem::exists(damaged));
 }
 
+TEST_F(PresetsInAFolder, AreKeptBesideADamagedOneOfTheSameFileName)
+{
+    ASSERT_TRUE(Add(L"b"));
+    const auto damaged =
+        scratch.GetPath() / "presets/fill" / (ReferenceHost::MakePresetFileName(L"a") + ".preset");
+    std::ofstream(damaged) << "<preset";
+
+    EXPECT_TRUE(Add(L"a", false, 7));
+
+    EXPECT_EQ(ValueOf(L"a"), OvxUtils::Any(7));
+    std::ifstream stream(damaged);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}), "<preset");
+}
+
 TEST_F(PresetsInAFolder, CountByTheNameInsideTheFile)
 {
     ASSERT_TRUE(Add(L"a", false, 1));
