@@ -1,11 +1,13 @@
 #include "reference_host/document/ZipArchive.h"
 
 #include "reference_host/document/DocumentError.h"
+#include "reference_host/document/ZipLayout.h"
 
 #include <zip.h>
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 namespace ReferenceHost
 {
@@ -57,6 +59,7 @@ ZipArchive::ZipArchive(std::string_view bytes, std::string fileLabel)
     : label(std::move(fileLabel)), archive(OpenArchive(bytes, label))
 {
     CheckAnnouncedSizes();
+    DemandSeparateEntries(bytes);
 }
 
 ZipArchive::~ZipArchive() = default;
@@ -77,6 +80,16 @@ void ZipArchive::CheckAnnouncedSizes() const
         packed = SaturatedSum(packed, entry.comp_size);
     }
     CheckUnpacked(unpacked, packed, label);
+}
+
+void ZipArchive::DemandSeparateEntries(std::string_view bytes) const
+{
+    const std::optional<ZipLayout> layout = ReadZipLayout(bytes);
+    if (!layout)
+        return;
+    if (const ZipEntry* const shared = FindSharedEntry(*layout, bytes))
+        throw DocumentError("the entry shares its bytes with another", LabelOf(std::string(shared->name)),
+                            "bytes of its own for each entry");
 }
 
 void ZipArchive::CheckUnpacked(std::uint64_t unpacked, std::uint64_t packed, const std::string& where) const

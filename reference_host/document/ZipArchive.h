@@ -29,7 +29,9 @@ public:
     /// Opens the archive; `bytes` are borrowed.
     ///
     /// @param fileLabel names the file in errors.
-    /// @throws DocumentError when it is no archive, or when what its directory announces exceeds a limit.
+    /// @throws DocumentError when it is no archive, when what its directory announces exceeds a limit, or
+    /// when
+    ///         entries share their bytes.
     ZipArchive(std::string_view bytes, std::string fileLabel);
     ZipArchive(const ZipArchive&) = delete;
     ZipArchive& operator=(const ZipArchive&) = delete;
@@ -55,6 +57,7 @@ private:
     };
 
     void CheckAnnouncedSizes() const;
+    void DemandSeparateEntries(std::string_view bytes) const;
     void CheckUnpacked(std::uint64_t unpacked, std::uint64_t packed, const std::string& where) const;
     [[nodiscard]] std::uint64_t FindOnly(const std::string& entry) const;
     [[noreturn]] void FailDamaged(const std::string& reason, const std::string& entry) const;
