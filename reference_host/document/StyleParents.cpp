@@ -12,10 +12,14 @@ namespace ReferenceHost
 namespace
 {
 
-enum class Visit
+/// More generations than any drawing has. Every look-up climbs all of them.
+constexpr std::size_t kMostGenerations = 256;
+
+/// Where a walk along parents has been.
+struct Visit
 {
-    Underway,
-    Done
+    bool isUnderway = true;
+    std::size_t generation = 0; ///< How many styles it inherits from, once it is not under way.
 };
 
 /// What a style calls its parent: a style of one category has a second one, which counts here.
@@ -50,25 +54,40 @@ public:
     {
         std::vector<StyleRecord*> way;
         for (StyleRecord* record = &first;
-             record != nullptr && !record->isExternal && visits.try_emplace(record, Visit::Underway).second;
+             record != nullptr && !record->isExternal && visits.try_emplace(record).second;
              record = record->parent)
             way.push_back(record);
         if (!way.empty())
             Cut(*way.back());
         for (auto record = way.rbegin(); record != way.rend(); ++record)
         {
-            visits[*record] = Visit::Done;
+            visits[*record] = {false, CountGenerations(**record)};
             if ((*record)->family == StyleFamily::Graphic && (*record)->origin == StyleOrigin::Named)
                 ordered.push_back(*record);
         }
     }
 
 private:
+    /// How many styles a style inherits from; cuts its parent where they are too many.
+    std::size_t CountGenerations(StyleRecord& record)
+    {
+        const auto parent = visits.find(record.parent);
+        if (parent == visits.end())
+            return 0;
+        if (parent->second.generation + 1 < kMostGenerations)
+            return parent->second.generation + 1;
+        warnings.AddAbout(record, "it inherits from more than " + std::to_string(kMostGenerations) +
+                                      " styles; those from \"" + ReadableName(record.parent->name) +
+                                      "\" on were cut off");
+        record.parent = nullptr;
+        return 0;
+    }
+
     /// Cuts the parent of the last style of a walk when the walk has been there.
     void Cut(StyleRecord& last)
     {
         const auto parent = visits.find(last.parent);
-        if (parent == visits.end() || parent->second != Visit::Underway)
+        if (parent == visits.end() || !parent->second.isUnderway)
             return;
         warnings.AddAbout(last, "its parent \"" + ReadableName(last.parent->name) +
                                     "\" inherits from it; the cycle was cut here");

@@ -12,9 +12,14 @@ namespace ReferenceHost
 /// The deepest nesting of elements that is read.
 inline constexpr std::size_t kDeepestNesting = 256;
 
+/// The most namespaces that are declared at one place, and in a whole text. Drawings declare some forty in
+/// one place; looking names up takes time with each.
+inline constexpr std::size_t kMostNamespacesInForce = 256;
+inline constexpr std::size_t kMostNamespaces = 1000000;
+
 /// Checks in one pass that `text` is XML that can be trusted: UTF-8 throughout, well-formed, its namespaces
-/// declared, no attribute twice in an element, no DOCTYPE, and elements nested no deeper than
-/// kDeepestNesting.
+/// declared, no attribute twice in an element, no DOCTYPE, and nesting and namespaces within the
+/// limits above.
 ///
 /// The parser that builds the tree is fast because it believes its input; this pass is what it may believe.
 /// Texts declared in another encoding than UTF-8 are refused and not converted, because edits are spliced

@@ -87,6 +87,7 @@ private:
     std::vector<OpenElement> open;
     std::vector<Attribute> attributes; ///< Of the tag being scanned.
     NamespaceBindings bindings;
+    std::size_t declarations = 0; ///< Of namespaces.
     bool rootSeen = false;
 };
 

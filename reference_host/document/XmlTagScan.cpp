@@ -180,6 +180,9 @@ void XmlScanner::DeclareNamespace(const Attribute& attribute)
     if (!isDefault && attribute.value.empty())
         Fail("the prefix " + std::string(prefix) + " is declared for no namespace", "the URI of a namespace");
     bindings.Declare(prefix, attribute.value);
+    if (bindings.Mark() > kMostNamespacesInForce || ++declarations > kMostNamespaces)
+        Fail("there are too many declarations of namespaces",
+             "at most " + std::to_string(kMostNamespacesInForce) + " in one place");
 }
 
 void XmlScanner::CheckPrefixes(std::string_view element)
