@@ -1,5 +1,6 @@
 #include "reference_host/document/DrawingReader.h"
 
+#include "reference_host/document/ContentLimits.h"
 #include "reference_host/document/DocumentKind.h"
 #include "reference_host/document/OdfNamespaces.h"
 #include "reference_host/document/ShapeReader.h"
@@ -9,6 +10,7 @@
 
 #include "host/utils/Utf8.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ReferenceHost
@@ -29,6 +31,14 @@ constexpr double kFileRead = 0.08;
 constexpr double kParsed = 0.34;
 constexpr double kStylesRead = 0.48;
 constexpr double kSheetsRead = 0.55;
+
+std::size_t CountElements(pugi::xml_node parent)
+{
+    const auto children = parent.children();
+    return static_cast<std::size_t>(std::count_if(children.begin(), children.end(),
+                                                  [](pugi::xml_node child)
+                                                  { return child.type() == pugi::node_element; }));
+}
 
 } // namespace
 
@@ -154,14 +164,19 @@ void DrawingReader::ReadPaletteEntry(pugi::xml_node element, XmlNames& names)
 
 void DrawingReader::ReadStyles(StyleReader& reader, const Part& styles, const Part& content)
 {
-    const auto readContainers =
-        [&reader](const Part& part, const XmlName& container, StyleOrigin origin, const ProgressSpan& reading)
+    const auto readContainers = [this, &reader](const Part& part, const XmlName& container,
+                                                StyleOrigin origin, const ProgressSpan& reading)
     {
         XmlNames names;
         const XmlNames::Scope scope(names, part.GetRoot());
         ForEachChild(part.GetRoot(), names, container,
                      [&](pugi::xml_node element)
-                     { reader.ReadStyles(element, part.text, names, origin, reading); });
+                     {
+                         DemandAtMost(origin == StyleOrigin::Named ? kMostNamedStyles : kMostStyles,
+                                      data.catalogue.GetRecords().size() + CountElements(element), "styles",
+                                      part.label);
+                         reader.ReadStyles(element, part.text, names, origin, reading);
+                     });
     };
     const auto readDeclarations = [&reader](const Part& part)
     {
@@ -220,7 +235,7 @@ void DrawingReader::ReadShapes(const Part& content)
     XmlNames names;
     const pugi::xml_node root = content.GetRoot();
     const XmlNames::Scope scope(names, root);
-    ShapeReader reader(data.catalogue, data.cascades, content.text, names, warnings);
+    ShapeReader reader(data.catalogue, data.cascades, content.text, names, warnings, content.label);
     const ProgressSpan reading = progress.Part(ProgressPhase::Shapes, kSheetsRead, 1);
     ForEachChild(root, names, kBody,
                  [&](pugi::xml_node body)

@@ -48,12 +48,13 @@ constexpr XmlName kMasterPage{Odf::kStyle, "master-page"};
 } // namespace
 
 ShapeReader::ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, std::string_view xml,
-                         XmlNames& xmlNames, Warnings& reports)
+                         XmlNames& xmlNames, Warnings& reports, const std::string& label)
     : catalogue(styles),
       cascades(cascadeStyles),
       names(xmlNames),
       warnings(reports),
-      text(styles, cascadeStyles, xmlNames, reports),
+      limits(label),
+      text(styles, cascadeStyles, xmlNames, reports, limits),
       source(xml)
 {
 }
@@ -126,6 +127,7 @@ void ShapeReader::ReadMember(pugi::xml_node element, const Place& place)
 
 DrawingObject& ShapeReader::AddObject(pugi::xml_node element, const Place& place)
 {
+    limits.CountObject();
     DrawingObject& object = allObjects->emplace_back(*place.page, place.group, place.members->size() + 1);
     place.members->push_back(&object);
     object.place = PlaceOfElement(element, source);

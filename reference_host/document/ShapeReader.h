@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/CascadeStyles.h"
+#include "reference_host/document/ContentLimits.h"
 #include "reference_host/document/DrawingObject.h"
 #include "reference_host/document/DrawingPage.h"
 #include "reference_host/document/ProgressMeter.h"
@@ -25,11 +26,14 @@ namespace ReferenceHost
 class ShapeReader
 {
 public:
-    /// Borrows everything. The named styles are complete; `xml` is the text that the tree was made of.
+    /// Borrows everything but the label, which names the file in errors. The named styles are complete; `xml`
+    /// is the text that the tree was made of.
     ShapeReader(StyleCatalogue& styles, CascadeStyles& cascadeStyles, std::string_view xml,
-                XmlNames& xmlNames, Warnings& reports);
+                XmlNames& xmlNames, Warnings& reports, const std::string& label);
 
     /// Reads all pages in `drawing`, the element office:drawing, whose scope is in force.
+    ///
+    /// @throws DocumentError when there are more than ContentLimits allow.
     void Read(pugi::xml_node drawing, std::vector<DrawingPage>& pages, std::deque<DrawingObject>& objects,
               const ProgressSpan& reading);
 
@@ -58,6 +62,7 @@ private:
     CascadeStyles& cascades;
     XmlNames& names;
     Warnings& warnings;
+    ContentLimits limits;
     TextReader text;
     std::string_view source;
     std::deque<DrawingObject>* allObjects = nullptr;

@@ -13,7 +13,7 @@ namespace
 {
 
 /// More generations than any drawing has. Every look-up climbs all of them.
-constexpr std::size_t kMostGenerations = 256;
+constexpr std::size_t kMostGenerations = 255;
 
 /// Where a walk along parents has been.
 struct Visit
@@ -74,7 +74,7 @@ private:
         const auto parent = visits.find(record.parent);
         if (parent == visits.end())
             return 0;
-        if (parent->second.generation + 1 < kMostGenerations)
+        if (parent->second.generation < kMostGenerations)
             return parent->second.generation + 1;
         warnings.AddAbout(record, "it inherits from more than " + std::to_string(kMostGenerations) +
                                       " styles; those from \"" + ReadableName(record.parent->name) +

@@ -22,8 +22,13 @@ void AddTextStyle(StyleLevels& levels, const StyleCatalogue& catalogue, StyleFam
 }
 
 TextReader::TextReader(const StyleCatalogue& styles, CascadeStyles& cascadeStyles, XmlNames& xmlNames,
-                       Warnings& reports)
-    : catalogue(styles), cascades(cascadeStyles), names(xmlNames), warnings(reports), walker(xmlNames, *this)
+                       Warnings& reports, ContentLimits& contentLimits)
+    : catalogue(styles),
+      cascades(cascadeStyles),
+      names(xmlNames),
+      warnings(reports),
+      limits(contentLimits),
+      walker(xmlNames, *this)
 {
 }
 
@@ -38,6 +43,7 @@ void TextReader::Read(pugi::xml_node shape, DrawingObject& object, Styles::Style
 
 void TextReader::BeginParagraph(pugi::xml_node paragraph)
 {
+    limits.CountTextUnit();
     StyleLevels levels;
     AddTextStyle(levels, catalogue, StyleFamily::Paragraph,
                  names.Attribute(paragraph, {Odf::kText, "style-name"}), warnings);
@@ -74,6 +80,7 @@ void TextReader::EndSpan()
 
 void TextReader::BeginRun(pugi::xml_node holder)
 {
+    limits.CountTextUnit();
     // As a rule it is open still; a blank alone may be told to be a run after its span.
     const auto isIt = [&](const Holder& each) { return each.element == holder; };
     const auto opened =

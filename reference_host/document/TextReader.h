@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/document/CascadeStyles.h"
+#include "reference_host/document/ContentLimits.h"
 #include "reference_host/document/DrawingObject.h"
 #include "reference_host/document/StyleRecord.h"
 #include "reference_host/document/TextWalker.h"
@@ -32,7 +33,7 @@ class TextReader final : private ITextVisitor
 public:
     /// Borrows everything.
     TextReader(const StyleCatalogue& styles, CascadeStyles& cascadeStyles, XmlNames& xmlNames,
-               Warnings& reports);
+               Warnings& reports, ContentLimits& contentLimits);
 
     /// Adds the paragraphs and runs of a shape's text to `object`. What the shape's own styles set is in
     /// `outer`; `shape` is the element, whose scope is in force.
@@ -57,6 +58,7 @@ private:
     CascadeStyles& cascades;
     XmlNames& names;
     Warnings& warnings;
+    ContentLimits& limits;
     TextWalker walker;
 
     // Of the shape being read

@@ -149,6 +149,7 @@ void XmlScanner::ScanCharacterData()
 {
     if (open.empty())
         Fail("there is text outside of the root element", "one root element");
+    CountNode();
     SkipThrough("]]>", "CDATA section");
 }
 
@@ -170,6 +171,7 @@ void XmlScanner::ScanText()
             Fail("there is text outside of the root element", "an XML document with one root element");
         return;
     }
+    CountNode();
     while (!AtEnd())
     {
         SkipPlain();
@@ -182,6 +184,13 @@ void XmlScanner::ScanText()
         else
             ++place;
     }
+}
+
+void XmlScanner::CountNode()
+{
+    if (++nodes > kMostNodes)
+        Fail("there are more than " + std::to_string(kMostNodes) + " elements, attributes and texts",
+             "a smaller drawing");
 }
 
 void XmlScanner::SkipBlanks()

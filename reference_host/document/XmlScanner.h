@@ -77,6 +77,8 @@ private:
     /// The innermost open element, for errors; empty outside of all.
     [[nodiscard]] std::string_view InnermostElement() const;
 
+    void CountNode();
+
     [[noreturn]] void Fail(const std::string& problem, const std::string& expected) const;
     [[noreturn]] void Fail(const std::string& problem, const std::string& expected,
                            std::string_view element) const;
@@ -87,6 +89,7 @@ private:
     std::vector<OpenElement> open;
     std::vector<Attribute> attributes; ///< Of the tag being scanned.
     NamespaceBindings bindings;
+    std::size_t nodes = 0;        ///< Elements, attributes and texts.
     std::size_t declarations = 0; ///< Of namespaces.
     bool rootSeen = false;
 };

@@ -59,6 +59,7 @@ void XmlScanner::ScanStartTag()
     ++place;
     if (open.empty() && rootSeen)
         Fail("there is a second root element", "one root element");
+    CountNode();
     const std::string_view element = ScanName();
     const std::size_t outerBindings = bindings.Mark();
     attributes.clear();
@@ -125,8 +126,13 @@ void XmlScanner::ScanAttribute()
     const char quote = AtEnd() ? '\0' : Here();
     if (quote != '"' && quote != '\'')
         Fail("the value of " + std::string(name) + " is not quoted", "name=\"value\"");
+    CountNode();
     const std::size_t begin = ++place;
     ScanAttributeValue(quote);
+    if (place - begin > kLongestValue)
+        Fail("the value of " + std::string(name) + " is longer than " + std::to_string(kLongestValue >> 20U) +
+                 " MiB",
+             "a shorter value");
     attributes.push_back({name, text.substr(begin, place - begin)});
     ++place;
 }

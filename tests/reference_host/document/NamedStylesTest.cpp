@@ -136,6 +136,23 @@ TEST(NamedStyles, AreCutWhereTheirParentsFormACycle)
                 ElementsAre("style \"C\": its parent \"A\" inherits from it; the cycle was cut here"));
 }
 
+TEST(NamedStyles, InheritFromAsManyStylesAsTheLimitAllows)
+{
+    constexpr int kLimit = 256;
+    FlatDrawing drawing;
+    drawing.Named("style:name='S0'", "<style:graphic-properties draw:fill='none'/>");
+    for (int number = 1; number <= kLimit; ++number)
+        drawing.Named("style:name='S" + std::to_string(number) + "' style:parent-style-name='S" +
+                      std::to_string(number - 1) + "'");
+
+    const OpenedDrawing opened = drawing.Open();
+
+    EXPECT_EQ(EffectiveOf(opened.Named(L"S255"), "fill.type"), "none");
+    EXPECT_EQ(opened.Named(L"S256")->GetParent(), nullptr);
+    EXPECT_THAT(opened.warnings, ElementsAre("style \"S256\": it inherits from more than 255 styles; those "
+                                             "from \"S255\" on were cut off"));
+}
+
 TEST(NamedStyles, MayNotBeTheirOwnParents)
 {
     const OpenedDrawing opened = FlatDrawing().Named("style:name='A' style:parent-style-name='A'").Open();

@@ -182,6 +182,31 @@ TEST(XmlScan, FindsOneOfManyAttributesThatIsThereTwice)
     EXPECT_EQ(error.GetWhere(), "x.fodg, line 1, <a>");
 }
 
+std::string WithNamespaces(std::size_t count)
+{
+    std::string text = "<a";
+    for (std::size_t number = 0; number < count; ++number)
+        text.append(" xmlns:b").append(std::to_string(number)).append("='u'");
+    return text + "/>";
+}
+
+TEST(XmlScan, LimitsTheNamespacesInForce)
+{
+    constexpr std::size_t kXml = 1; // The prefix that needs no declaration.
+
+    EXPECT_NO_THROW(ScanXml(WithNamespaces(ReferenceHost::kMostNamespacesInForce - kXml), "x.fodg"));
+    EXPECT_EQ(ErrorOf(WithNamespaces(ReferenceHost::kMostNamespacesInForce)).GetProblem(),
+              "there are too many declarations of namespaces");
+}
+
+TEST(XmlScan, LimitsTheLengthOfValues)
+{
+    const std::string longest(ReferenceHost::kLongestValue, 'x');
+
+    EXPECT_NO_THROW(ScanXml("<a b='" + longest + "'/>", "x.fodg"));
+    EXPECT_EQ(ErrorOf("<a b='" + longest + "x'/>").GetProblem(), "the value of b is longer than 16 MiB");
+}
+
 TEST(XmlScan, NamesFileLineAndElement)
 {
     const DocumentError error = ErrorOf("<a>\n <b>\n  &wrong;\n </b>\n</a>");

@@ -176,6 +176,23 @@ TEST(ZipArchive, RefusesAnEntryThatUnpacksToLessThanItAnnounces)
     EXPECT_THAT(error.GetProblem(), HasSubstr("the entry is damaged"));
 }
 
+TEST(ZipArchive, RefusesEntriesThatShareTheirBytes)
+{
+    constexpr std::size_t kOffset = 42;
+    std::string bytes = ZipBuilder().Add("a", "text").Add("b", "text").Build();
+    bytes.replace(bytes.rfind("PK\x01\x02") + kOffset, 4, std::string(4, '\0'));
+
+    try
+    {
+        const ZipArchive archive(bytes, "x.odg");
+        FAIL() << "opened";
+    }
+    catch (const DocumentError& error)
+    {
+        EXPECT_EQ(error.GetProblem(), "the entry shares its bytes with another");
+    }
+}
+
 TEST(ZipArchive, ReadsAnEmptyEntry)
 {
     const std::string bytes = ZipBuilder().Add("a", "").Build();
