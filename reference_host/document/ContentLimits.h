@@ -8,8 +8,8 @@ namespace ReferenceHost
 
 /// The most that a drawing may hold. Each style, object and unit takes some thousand bytes once it is edited;
 /// drawings beyond this cannot be worked on any more.
-inline constexpr std::size_t kMostNamedStyles = 250000;
-inline constexpr std::size_t kMostStyles = 500000; ///< The named and the automatic ones.
+inline constexpr std::size_t kMostNamedStyles = 100000;
+inline constexpr std::size_t kMostStyles = 300000; ///< The named and the automatic ones.
 inline constexpr std::size_t kMostObjects = 250000;
 inline constexpr std::size_t kMostTextUnits = 500000;
 

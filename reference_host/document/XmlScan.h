@@ -14,8 +14,12 @@ inline constexpr std::size_t kDeepestNesting = 256;
 
 /// The most elements, attributes and pieces of text together, and the most bytes of an attribute's value: the
 /// tree of a text, and what is made of a value, take many times their room.
-inline constexpr std::size_t kMostNodes = 4000000;
+inline constexpr std::size_t kMostNodes = 3000000;
 inline constexpr std::size_t kLongestValue = 16U << 20U;
+
+/// The most attributes of an element. Those of drawings have some twenty; looking one up takes time with
+/// each.
+inline constexpr std::size_t kMostAttributes = 1000;
 
 /// The most namespaces that are declared at one place, and in a whole text. Drawings declare some forty in
 /// one place; looking names up takes time with each.

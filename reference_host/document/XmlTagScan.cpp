@@ -134,6 +134,9 @@ void XmlScanner::ScanAttribute()
                  " MiB",
              "a shorter value");
     attributes.push_back({name, text.substr(begin, place - begin)});
+    if (attributes.size() > kMostAttributes)
+        Fail("the element has more than " + std::to_string(kMostAttributes) + " attributes",
+             "fewer attributes");
     ++place;
 }
 

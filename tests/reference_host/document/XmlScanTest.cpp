@@ -199,6 +199,21 @@ TEST(XmlScan, LimitsTheNamespacesInForce)
               "there are too many declarations of namespaces");
 }
 
+std::string WithAttributes(std::size_t count)
+{
+    std::string text = "<a";
+    for (std::size_t number = 0; number < count; ++number)
+        text.append(" b").append(std::to_string(number)).append("=''");
+    return text + "/>";
+}
+
+TEST(XmlScan, LimitsTheAttributesOfAnElement)
+{
+    EXPECT_NO_THROW(ScanXml(WithAttributes(ReferenceHost::kMostAttributes), "x.fodg"));
+    EXPECT_EQ(ErrorOf(WithAttributes(ReferenceHost::kMostAttributes + 1)).GetProblem(),
+              "the element has more than 1000 attributes");
+}
+
 TEST(XmlScan, LimitsTheLengthOfValues)
 {
     const std::string longest(ReferenceHost::kLongestValue, 'x');

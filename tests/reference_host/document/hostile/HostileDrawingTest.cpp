@@ -91,7 +91,7 @@ TEST_F(HostileDrawings, WithAnAttributeTwiceAreRefused)
     EXPECT_THAT(OutcomeOf(drawing), HasSubstr("draw:name stands there twice"));
 }
 
-TEST_F(HostileDrawings, WithAMillionAttributesAreRead)
+TEST_F(HostileDrawings, WithAMillionAttributesAreRefused)
 {
     HostileDrawing drawing;
     drawing.page = [](const HostileDrawing::Write& write)
@@ -101,13 +101,13 @@ TEST_F(HostileDrawings, WithAMillionAttributesAreRead)
         write("/>");
     };
 
-    EXPECT_EQ(OutcomeOf(drawing), "success");
+    EXPECT_THAT(OutcomeOf(drawing), HasSubstr("the element has more than 1000 attributes"));
 }
 
 TEST_F(HostileDrawings, WithTooManyNamespacesAreRefused)
 {
     HostileDrawing drawing;
-    for (std::size_t number = 0; number < 100000; ++number)
+    for (std::size_t number = 0; number < 500; ++number)
         drawing.rootAttributes += " xmlns:a" + Number(number) + "='u" + Number(number) + "'";
 
     EXPECT_THAT(OutcomeOf(drawing), HasSubstr("too many declarations of namespaces"));
@@ -116,7 +116,7 @@ TEST_F(HostileDrawings, WithTooManyNamespacesAreRefused)
 TEST_F(HostileDrawings, WithParentsInACircleAreRepaired)
 {
     HostileDrawing drawing;
-    const std::size_t count = Many(200000);
+    const std::size_t count = Many(100000);
     drawing.styles = Repeat(count,
                             [count](std::size_t number)
                             {
@@ -131,7 +131,7 @@ TEST_F(HostileDrawings, WithParentsThatReachTooDeepAreCut)
 {
     HostileDrawing drawing;
     drawing.styles =
-        Repeat(Many(200000),
+        Repeat(Many(100000),
                [](std::size_t number)
                {
                    return "<style:style style:family='graphic' style:name='s" + Number(number) + "'" +
@@ -159,17 +159,17 @@ TEST_F(HostileDrawings, WithAMillionStylesAreRefused)
 {
     HostileDrawing drawing;
     drawing.styles =
-        Repeat(TakesLong() ? 1000000 : 250001, [](std::size_t number)
+        Repeat(TakesLong() ? 1000000 : 100001, [](std::size_t number)
                { return "<style:style style:family='graphic' style:name='s" + Number(number) + "'/>"; });
 
-    EXPECT_THAT(OutcomeOf(drawing), HasSubstr("there are more than 250000 styles"));
+    EXPECT_THAT(OutcomeOf(drawing), HasSubstr("there are more than"));
 }
 
 TEST_F(HostileDrawings, WithManyStylesAreRead)
 {
     HostileDrawing drawing;
     drawing.styles =
-        Repeat(Many(250000), [](std::size_t number)
+        Repeat(Many(100000), [](std::size_t number)
                { return "<style:style style:family='graphic' style:name='s" + Number(number) + "'/>"; });
     drawing.page = Repeat(1, [](std::size_t) { return "<draw:rect/>"; });
 
@@ -205,14 +205,41 @@ TEST_F(HostileDrawings, WithManyParagraphsAreRead)
     EXPECT_EQ(OutcomeOf(drawing), "success");
 }
 
+TEST_F(HostileDrawings, WithAsManyElementsAsThereMayBeAreRead)
+{
+    HostileDrawing drawing;
+    drawing.page = [](const HostileDrawing::Write& write)
+    {
+        write("<draw:rect/>");
+        Repeat(Many(2900000), [](std::size_t) { return "<a/>"; })(write);
+    };
+
+    EXPECT_EQ(OutcomeOf(drawing), "success");
+}
+
+TEST_F(HostileDrawings, WithManyAutomaticStylesAreRead)
+{
+    HostileDrawing drawing;
+    drawing.automatic =
+        Repeat(Many(299000),
+               [](std::size_t number)
+               {
+                   return "<style:style style:family='graphic' style:name='a" + Number(number) +
+                          "'><style:graphic-properties draw:fill-color='#112233'/></style:style>";
+               });
+    drawing.page = Repeat(1, [](std::size_t) { return "<draw:rect draw:style-name='a0'/>"; });
+
+    EXPECT_EQ(OutcomeOf(drawing), "success");
+}
+
 TEST_F(HostileDrawings, OfTinyElementsAloneAreRefused)
 {
     if (!TakesLong())
-        GTEST_SKIP() << "four million elements take their time";
+        GTEST_SKIP() << "millions of elements take their time";
     HostileDrawing drawing;
     drawing.page = Repeat(4000000, [](std::size_t) { return "<a/>"; });
 
-    EXPECT_THAT(OutcomeOf(drawing), HasSubstr("more than 4000000 elements, attributes and texts"));
+    EXPECT_THAT(OutcomeOf(drawing), HasSubstr("more than 3000000 elements, attributes and texts"));
 }
 
 TEST_F(HostileDrawings, WithAnAttributeOfAHundredMegabytesAreRefused)

@@ -15,7 +15,7 @@ namespace
 
 [[noreturn]] void Answer(int pipeEnd, const std::function<std::string()>& work)
 {
-    constexpr rlim_t kMostSeconds = 30;
+    constexpr rlim_t kMostSeconds = 60;
     const rlimit limit{kMostSeconds, kMostSeconds};
     setrlimit(RLIMIT_CPU, &limit);
     std::string answer;

@@ -12,7 +12,7 @@ struct MeasuredRun
     std::size_t peakMebibytes = 0;
 };
 
-/// Runs `work` in a process of its own, which is ended after some thirty seconds of processor time.
+/// Runs `work` in a process of its own, which is ended after a minute of processor time.
 [[nodiscard]] MeasuredRun RunMeasured(const std::function<std::string()>& work);
 
 /// Tells whether the tests were asked to take their time: the variable STYLEPROPERTIES_LONG_TESTS is set.
