@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -63,16 +62,6 @@ void WriteWarnings(const std::vector<std::string>& warnings)
 {
     for (const std::string& warning : warnings)
         WriteErrorLine("warning: " + warning);
-}
-
-void OutliveFailedWrites()
-{
-#if defined(SIGPIPE)
-    std::signal(SIGPIPE, SIG_IGN);
-#endif
-#if defined(SIGXFSZ)
-    std::signal(SIGXFSZ, SIG_IGN);
-#endif
 }
 
 } // namespace Cli

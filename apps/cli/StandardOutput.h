@@ -25,8 +25,4 @@ void WriteErrorLine(std::string_view message);
 /// Writes lines to the standard error that tell of something to know, and of no failure.
 void WriteWarnings(const std::vector<std::string>& warnings);
 
-/// Lets writing to a pipe that nobody reads any more, and beyond what files may hold, be an error instead of
-/// the end of the program.
-void OutliveFailedWrites();
-
 } // namespace Cli

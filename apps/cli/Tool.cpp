@@ -6,6 +6,7 @@
 #include "apps/cli/LanguageChoice.h"
 #include "apps/cli/StandardOutput.h"
 #include "apps/cli/TextReport.h"
+#include "apps/workbench/FailedWrites.h"
 #include "apps/workbench/PanelFolder.h"
 #include "apps/workbench/SelectionSearch.h"
 #include "apps/workbench/Selector.h"
@@ -142,7 +143,7 @@ int Run(const InformationText& information)
 
 int RunTool(int argumentCount, const char* const* arguments)
 {
-    OutliveFailedWrites();
+    Workbench::OutliveFailedWrites();
     try
     {
         return std::visit([](const auto& command) { return Run(command); },

@@ -2,6 +2,7 @@
 
 #include "apps/desktop/WindowText.h"
 #include "apps/workbench/Selector.h"
+#include "reference_host/document/OverwriteRefusal.h"
 #include "reference_host/history/History.h"
 
 #include <QCursor>
@@ -9,6 +10,7 @@
 #include <QScopedValueRollback>
 
 #include <exception>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -86,6 +88,12 @@ QString DescribeWritten(const std::filesystem::path& drawing,
     return files.join(QLatin1String("; "));
 }
 
+OvxStringT QuestionOf(const ReferenceHost::OverwriteRefusal& refusal)
+{
+    const std::string reason = refusal.GetWhere() + ": " + refusal.GetProblem();
+    return FromQString(TextOf(L"window.overwrite", QString::fromStdString(reason)));
+}
+
 /// The selector that finds just these.
 OvxStringT SelectorOf(ReferenceHost::Drawing& drawing,
                       const std::vector<ReferenceHost::DrawingObject*>& objects)
@@ -161,19 +169,38 @@ void Document::Replace(Workbench::Session::OpenedDrawing opening, const std::fil
 
 bool Document::Save(const std::filesystem::path& target)
 {
+    std::optional<ReferenceHost::OverwriteRefusal> refusal;
     const auto save = [&](const ReferenceHost::ProgressListener& listener)
     {
-        std::vector<std::string> told;
-        const std::vector<std::filesystem::path> sheets =
-            editor->Save(target, {.keepBackup = keepsBackup, .progress = listener}, told);
-        warnings = ToQStrings(told);
-        path = target;
-        savedStep = editor->GetStepCount();
-        emit noted(DescribeWritten(target, sheets));
+        try
+        {
+            Write(target, {.keepBackup = keepsBackup, .progress = listener});
+        }
+        catch (const ReferenceHost::OverwriteRefusal& error)
+        {
+            refusal = error;
+        }
     };
-    const bool isSaved = AttemptOnFile(FileWork::Saving, target, save);
+    const auto saveAllTheSame = [&](const ReferenceHost::ProgressListener& listener)
+    { Write(target, {.keepBackup = keepsBackup, .force = true, .progress = listener}); };
+
+    bool isSaved = AttemptOnFile(FileWork::Saving, target, save) && !refusal;
+    // Nothing is shown any more of the first attempt.
+    if (refusal)
+        isSaved =
+            answers.Confirm(QuestionOf(*refusal)) && AttemptOnFile(FileWork::Saving, target, saveAllTheSame);
     emit fileChanged();
     return isSaved;
+}
+
+void Document::Write(const std::filesystem::path& target, const ReferenceHost::SaveOptions& options)
+{
+    std::vector<std::string> told;
+    const std::vector<std::filesystem::path> sheets = editor->Save(target, options, told);
+    warnings = ToQStrings(told);
+    path = target;
+    savedStep = editor->GetStepCount();
+    emit noted(DescribeWritten(target, sheets));
 }
 
 bool Document::Edit(const Edits& edits)

@@ -33,7 +33,8 @@ class Document : public QObject
 public:
     using Edits = std::function<void(Workbench::Editor&)>;
 
-    /// `answers` is borrowed and outlives this: it is asked what the dialogs of panels ask.
+    /// `answers` is borrowed and outlives this: it is asked what the dialogs of panels ask, and whether to
+    /// replace a file where that loses something.
     Document(Workbench::PanelFolder itsPanels, Workbench::IDialogAnswers& itsAnswers);
     ~Document() override;
 
@@ -71,10 +72,10 @@ public:
     void SetKeepsBackup(bool isKept) noexcept { keepsBackup = isKept; }
 
     /// Saves the drawing, which lies in that file from then on, and tells in words which files were written.
+    /// Where replacing a file would lose something, see ReferenceHost::OverwriteRefusal, it asks first.
     ///
-    /// @returns whether it did; if not, failed() told why, or noted() that it was cancelled. The drawing is
-    /// as
-    ///          modified as before then.
+    /// @returns whether it did; if not, failed() told why, noted() that it was cancelled, or the person did
+    ///          not want to. The drawing is as modified as before then.
     bool Save(const std::filesystem::path& target);
 
     /// Lets `edits` change the drawing. What fails is told; listeners hear of a change in any case, so that
@@ -138,6 +139,7 @@ private:
     using FileSteps = std::function<void(const ReferenceHost::ProgressListener& listener)>;
 
     bool Attempt(const std::function<void()>& work);
+    void Write(const std::filesystem::path& target, const ReferenceHost::SaveOptions& options);
     bool AttemptOnFile(FileWork work, const std::filesystem::path& file, const FileSteps& steps);
     void Replace(Workbench::Session::OpenedDrawing opening, const std::filesystem::path& file,
                  ReferenceHost::DrawingPicture newPicture);

@@ -7,6 +7,7 @@
 #include "apps/desktop/WindowPicture.h"
 #include "apps/desktop/WindowText.h"
 #include "apps/desktop/canvas/CanvasWidget.h"
+#include "apps/workbench/FailedWrites.h"
 #include "apps/workbench/PanelFolder.h"
 #include "reference_host/resources/Language.h"
 
@@ -129,6 +130,7 @@ int Run(const WindowOptions& options)
 
 int RunWindow(int argumentCount, char** arguments)
 {
+    Workbench::OutliveFailedWrites();
     NeedNoScreenForPictures(argumentCount, arguments);
     QApplication application(argumentCount, arguments);
     QApplication::setApplicationName(QStringLiteral("styleprops-desktop"));

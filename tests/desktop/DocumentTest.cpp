@@ -12,6 +12,8 @@
 #include <vector>
 
 using Desktop::Document;
+using DesktopTests::DialogAnswer;
+using DesktopTests::Press;
 using WorkbenchTests::FourBoxes;
 
 namespace
@@ -198,6 +200,37 @@ TEST_F(WindowDocument, IsModifiedUntilItIsSaved)
 
     document.Save(file);
 
+    EXPECT_FALSE(document.IsModified());
+}
+
+TEST_F(WindowDocument, AsksBeforeItReplacesWhatSomebodyElseHasChanged)
+{
+    document.Open(file);
+    SetColour(L"#123456");
+    folder.Write("drawing.fodg", "of somebody else");
+    const DialogAnswer answer(
+        [](QDialog& dialog)
+        {
+            EXPECT_TRUE(static_cast<QMessageBox&>(dialog).text().contains(QStringLiteral("drawing.fodg")));
+            Press(dialog, QMessageBox::No);
+        });
+
+    EXPECT_FALSE(document.Save(file));
+
+    EXPECT_EQ(DesktopTests::ReadBytes(file), "of somebody else");
+    EXPECT_TRUE(document.IsModified());
+}
+
+TEST_F(WindowDocument, ReplacesWhatSomebodyElseHasChangedWhenThePersonSaysSo)
+{
+    document.Open(file);
+    SetColour(L"#123456");
+    folder.Write("drawing.fodg", "of somebody else");
+    const DialogAnswer answer([](QDialog& dialog) { Press(dialog, QMessageBox::Yes); });
+
+    EXPECT_TRUE(document.Save(file));
+
+    EXPECT_NE(DesktopTests::ReadBytes(file), "of somebody else");
     EXPECT_FALSE(document.IsModified());
 }
 

@@ -16,6 +16,7 @@
 
 using DesktopTests::DialogAnswer;
 using DesktopTests::OpenWindow;
+using DesktopTests::Press;
 using WorkbenchTests::FourBoxes;
 
 namespace
@@ -33,11 +34,6 @@ struct MainWindow : testing::Test
         open.Choose("fill.color", "Sea");
     }
 };
-
-void Press(QDialog& dialog, QMessageBox::StandardButton button)
-{
-    static_cast<QMessageBox&>(dialog).button(button)->click();
-}
 
 } // namespace
 

@@ -173,6 +173,11 @@ void DialogAnswer::Look()
         dialog, [this, dialog, place = given++] { answers[place](*dialog); }, Qt::QueuedConnection);
 }
 
+void Press(QDialog& question, QMessageBox::StandardButton button)
+{
+    static_cast<QMessageBox&>(question).button(button)->click();
+}
+
 QString WithoutMnemonics(QString text)
 {
     const QChar kept(1);

@@ -7,6 +7,7 @@
 
 #include <QDialog>
 #include <QMenu>
+#include <QMessageBox>
 #include <QString>
 #include <QStringList>
 #include <QTimer>
@@ -101,6 +102,9 @@ private:
     std::size_t given = 0;
     QTimer timer;
 };
+
+/// Clicks a button of a question.
+void Press(QDialog& question, QMessageBox::StandardButton button);
 
 /// A text without what marks the letters that choose it.
 [[nodiscard]] QString WithoutMnemonics(QString text);

@@ -24,7 +24,7 @@ void MasterShapes::Read(pugi::xml_node root, std::string_view text, XmlNames& na
     if (!isFlat)
         ReadStyles(root, text, names);
     Warnings reports(warnings);
-    ShapeReader reader(isFlat ? data.catalogue : catalogue, cascades, text, names, reports);
+    ShapeReader reader(isFlat ? data.catalogue : catalogue, cascades, text, names, reports, data.file.label);
     for (const pugi::xml_node container : root.children())
     {
         const XmlNames::Scope scope(names, container);
