@@ -236,17 +236,30 @@ TEST_F(DeletingAPreset, AsksNobody)
     EXPECT_THAT(log.LinesOf({"confirm", "dialogs"}), IsEmpty());
 }
 
+TEST_F(DeletingAPreset, RemovesItFromTheMiddleOfTheList)
+{
+    Keep(L"a");
+    Keep(L"b");
+    Keep(L"c");
+    Select(L"b");
+
+    panel.OnDeletePreset();
+
+    EXPECT_THAT(ListedTexts(), ElementsAre(L"a", L"c"));
+}
+
 TEST_F(DeletingAPreset, RemovesOnlyTheFirstItemOfThatText)
 {
     Keep(L"a");
     Keep(L"b");
+    Keep(L"c");
     source.presetText = L"same";
     Select(L"same");
     log.Clear();
 
     panel.OnDeletePreset();
 
-    EXPECT_THAT(ListedTexts(), ElementsAre(L"same"));
+    EXPECT_THAT(ListedTexts(), ElementsAre(L"same", L"same"));
 }
 
 TEST_F(DeletingAPreset, OnlySelectsNoneAndNotifiesWhileNoneIsSelected)

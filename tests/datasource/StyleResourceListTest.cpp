@@ -140,6 +140,19 @@ TEST_F(StyleResourceList, ShowsNineOfNineteenAndTheEntryForMore)
                                                      "' placeholderCommandID='10'>");
 }
 
+TEST_F(StyleResourceList, HoldsAllNamesAgainWhenNoMoreThanEighteenAreLeft)
+{
+    NameFills(19);
+    Target(panel, {&ObjectWithFill()});
+    static_cast<void>(panel.GetStyleResourceList());
+    sheet.entries.pop_back();
+
+    const std::vector<OvxStringT> ids = Column(panel.GetStyleResourceList(), L"@placeholderCommandID");
+
+    EXPECT_EQ(ids.size(), 19U);
+    EXPECT_EQ(ids.back(), L"18");
+}
+
 TEST_F(StyleResourceList, ShowsTheCurrentStyleFromBeyondTheLimit)
 {
     NameFills(19);
