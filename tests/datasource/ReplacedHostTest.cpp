@@ -1,4 +1,4 @@
-// Four pieces of the host are replaced here by pieces of this program: what the reference host never answers
+// Six pieces of the host are replaced here by pieces of this program: what the reference host never answers
 // can then be answered, and what it answers without a trace leaves one. The library leaves these names to its
 // host; the dynamic linker finds them here first.
 
@@ -6,9 +6,13 @@
 #include "host/services/IAppInterface.h"
 #include "host/services/IPanelHost.h"
 #include "host/services/OvxComponent.h"
+#include "host/style_model/StylePresetManager.h"
 #include "host/utils/PostConstructible.h"
 #include "tests/datasource/support/HostedTest.h"
+#include "tests/datasource/support/PresetsTest.h"
 #include "tests/datasource/support/RecordingContext.h"
+
+#include <dlfcn.h>
 
 #include <map>
 
@@ -52,10 +56,33 @@ void Styles::Style::SetProperties(const PropertyPaths& paths, const Style* from)
         replacements.log->Add("SetProperties(" + Describe(paths) + ", " + Describe(from) + ")");
 }
 
+/// Gives the host's own answer.
+Styles::Style* Styles::Style::GetSubstyle(const PropertyKey& key, bool walkingPath) const
+{
+    if (replacements.log != nullptr)
+        replacements.log->Add("GetSubstyle(" + Describe(key) +
+                              (walkingPath ? ", on a path)" : ", is it there)"));
+    using HostsOwn = Style* (*)(const Style*, const PropertyKey&, bool);
+    static const auto hostsOwn =
+        reinterpret_cast<HostsOwn>(dlsym(RTLD_NEXT, "_ZNK6Styles5Style11GetSubstyleERKNS_11PropertyKeyEb"));
+    return hostsOwn(this, key, walkingPath);
+}
+
+bool Styles::StylePresetManager::AddPreset(const OvxStringT& category, const OvxStringT& name,
+                                           const Style& style, bool replace)
+{
+    if (replacements.log != nullptr)
+        replacements.log->Add("AddPreset(" + Describe(category) + ", " + Describe(name) + ", " +
+                              Describe(&style) + (replace ? ", replace)" : ", keep)"));
+    return true;
+}
+
 namespace
 {
 
 using namespace Styles;
+using testing::Contains;
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -191,6 +218,79 @@ TEST_F(ReplacedCopying, TakesNothingFromANullChangeOfDefaultStyles)
     panel.ModifyStyles({Path({L"color"})}, nullptr, nullptr);
 
     EXPECT_THAT(Copied(), IsEmpty());
+}
+
+/// Styles of a host that may answer differently to who follows a path and to who asks what is there.
+class ReplacedSubstyles : public ReplacedHost
+{
+protected:
+    Style& base = styles.WithColor("base", 1);
+    Style& box = styles.WithColor("box", 2, &base);
+};
+
+TEST_F(ReplacedSubstyles, AreFollowedAlongThePathOfAValue)
+{
+    Target(panel, {&box, &styles.WithColor("circle", 3)});
+    log.Clear();
+
+    static_cast<void>(panel.IsAmbiguous(Path({L"gradient", L"start"})));
+
+    EXPECT_THAT(log.LinesOf({"GetSubstyle(gradient"}), Each("GetSubstyle(gradient, on a path)"));
+    EXPECT_THAT(log.LinesOf({"GetSubstyle(gradient"}), testing::SizeIs(2));
+}
+
+TEST_F(ReplacedSubstyles, AreOnlyLookedForInTheOwnersParent)
+{
+    Target(panel, {&box});
+    log.Clear();
+
+    EXPECT_TRUE(panel.Private_HasParent());
+
+    EXPECT_THAT(log.LinesOf({"GetSubstyle(fill"}), Each("GetSubstyle(fill, is it there)"));
+    EXPECT_THAT(log.LinesOf({"GetSubstyle(fill"}), Contains("GetSubstyle(fill, is it there)"));
+}
+
+TEST_F(ReplacedSubstyles, AreOnlyLookedForWhereValuesAreApplied)
+{
+    Target(panel, {&box});
+    panel.SetActiveIdentifier(L"style");
+    log.Clear();
+
+    panel.OnApplyToParent();
+
+    EXPECT_THAT(log.LinesOf({"source.ApplyToParent"}), testing::SizeIs(1));
+    EXPECT_THAT(log.LinesOf({"GetSubstyle(fill"}), Each("GetSubstyle(fill, is it there)"));
+}
+
+/// Presets of a host that tells how they are handed over.
+class ReplacedKeeping : public PresetsTest
+{
+protected:
+    ReplacedKeeping()
+    {
+        panelHost.context = &context;
+        appInterface.panelHost = &panelHost;
+        replacements = Replacements();
+        replacements.appInterface = &appInterface;
+        replacements.log = &log;
+    }
+
+    ~ReplacedKeeping() override { replacements = Replacements(); }
+
+    PanelHostAnswering panelHost;
+    AppInterfaceAnswering appInterface;
+};
+
+TEST_F(ReplacedKeeping, IsHandedTheWholeStyleInPlaceOfAPresetOfThatName)
+{
+    Target(panel, {&styles.WithColor("object", 5)});
+    panel.Invoke(L"OnAddPreset");
+    Dialog().Write<OvxStringT>(L"AddPresetName", L"a");
+
+    Dialog().Invoke(L"OnAddPresetOk");
+
+    EXPECT_THAT(log.LinesOf({"AddPreset("}),
+                ElementsAre("AddPreset(FillPresets, a, style{fill.color=5}, replace)"));
 }
 
 /// Titles from patterns that no catalogue has.
