@@ -170,6 +170,20 @@ TEST_F(MoreStylesList, AppliesTheChosenItemAndClosesTheDialogOnOk)
                                        "dialogs.CloseDialog(494d1725-676f-484b-9453-fe7fb1958759, 2, 0)"));
 }
 
+TEST_F(MoreStylesList, OnlyClosesTheDialogOnOkWithoutASheet)
+{
+    NameFills(20);
+    Target(panel, {&ObjectWithFill(fills[0])});
+    static_cast<void>(panel.GetStyleResourceList());
+    panel.SetCurrentListStyleItem(panel.GetNewStyleList().GetChildren().at(4));
+    source.sheet = nullptr;
+    log.Clear();
+
+    panel.OnBaseStylePropertiesDatasourceOk();
+
+    EXPECT_THAT(Effects(), ElementsAre("dialogs.CloseDialog(494d1725-676f-484b-9453-fe7fb1958759, 2, 0)"));
+}
+
 TEST_F(MoreStylesList, DoesNothingOnOkWhileNoItemIsChosen)
 {
     NameFills(20);

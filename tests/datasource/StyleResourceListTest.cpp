@@ -266,6 +266,17 @@ TEST_F(PickingAStyle, DoesNothingForTheCurrentOne)
     EXPECT_THAT(Effects(), IsEmpty());
 }
 
+TEST_F(PickingAStyle, DoesNothingForTheCurrentOneFromBeyondTheLimit)
+{
+    NameFills(19);
+    Target(panel, {&ObjectWithFill(fills[14])});
+    Open();
+
+    panel.SetApplyStyleResource(10);
+
+    EXPECT_THAT(Effects(), IsEmpty()) << "the entry for more has the id 11";
+}
+
 TEST_F(PickingAStyle, DoesNothingForAnUnknownId)
 {
     NameFills(2);
