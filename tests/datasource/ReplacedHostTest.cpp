@@ -262,6 +262,16 @@ TEST_F(ReplacedSubstyles, AreOnlyLookedForWhereValuesAreApplied)
     EXPECT_THAT(log.LinesOf({"GetSubstyle(fill"}), Each("GetSubstyle(fill, is it there)"));
 }
 
+TEST_F(ReplacedSubstyles, AreOnlyLookedForInANamedDefaultStyle)
+{
+    source.defaultSheet = &sheet;
+    NameInSheet(L"Base", base);
+
+    panel.WriteToDefault(L"Base", Key(L"color"), OvxUtils::Any(3));
+
+    EXPECT_THAT(log.LinesOf({"GetSubstyle(fill"}), ElementsAre("GetSubstyle(fill, is it there)"));
+}
+
 /// Presets of a host that tells how they are handed over.
 class ReplacedKeeping : public PresetsTest
 {
