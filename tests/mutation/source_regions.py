@@ -50,8 +50,9 @@ class Source:
         return end
 
     def function_of(self, region):
-        """The name of the function that the region lies in; empty outside of any."""
-        return next((name for name, start, end in self.functions if start <= region.start < end), "")
+        """The name of the function that the region lies in, or else of the variable that it initialises."""
+        inside = (name for name, start, end in self.functions if start <= region.start < end)
+        return next(inside, self.tokens[max(region.start - 2, 0)].text)
 
     def _add(self, kind, start, end, **more):
         if start < end:
