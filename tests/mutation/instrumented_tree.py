@@ -138,25 +138,24 @@ class InstrumentedTree:
         self.left_out = set()
         self.files = []
         # Headers first: changes of sources then leave the numbers in headers alone, which all sources include.
-        names = self._tracked(*_MUTATED_FOLDERS)
-        for name in sorted(names, key=lambda name: (not name.endswith(".h"), name)):
-            if name.endswith((".h", ".cpp")):
+        for pattern in ("*.h", "*.cpp"):
+            for path in sorted(path for folder in _MUTATED_FOLDERS for path in (self.project / folder).glob(pattern)):
                 first = 1 + sum(len(file.mutants) for file in self.files)
-                self.files.append(_File(name, (self.project / name).read_text(), first))
+                self.files.append(_File(str(path.relative_to(self.project)), path.read_text(), first))
         self.lines = {}
 
     @property
     def mutants(self):
         return [m for file in self.files for m in file.mutants if m.number not in self.left_out]
 
-    def _tracked(self, *folders):
-        listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard", "--", *folders],
+    def _project_files(self):
+        listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard"],
                                 cwd=self.project, check=True, capture_output=True, text=True)
         return listed.stdout.split("\n")[:-1]
 
     def copy_project(self):
         mutated = {file.name for file in self.files if file.name.endswith(".cpp")}
-        for name in self._tracked("."):
+        for name in self._project_files():
             source, copy = self.project / name, self.folder / name
             if name in mutated or not source.is_file():
                 continue
