@@ -8,7 +8,8 @@ if(STYLEPROPERTIES_FUZZ AND NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     message(FATAL_ERROR "STYLEPROPERTIES_FUZZ needs Clang; the preset fuzz chooses it.")
 endif()
 
-# styleproperties_target(TARGET): the language level, the include root, hidden visibility, warnings, instruments.
+# styleproperties_target(TARGET): the language level, the include root, hidden visibility, warnings, instruments,
+# hardening.
 function(styleproperties_target target)
     target_compile_features(${target} PUBLIC cxx_std_20)
     target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
@@ -19,6 +20,7 @@ function(styleproperties_target target)
         POSITION_INDEPENDENT_CODE ON)
     styleproperties_warnings(${target})
     styleproperties_instruments(${target})
+    styleproperties_hardening(${target})
 endfunction()
 
 function(styleproperties_warnings target)
@@ -54,5 +56,25 @@ function(styleproperties_instruments target)
         set(flags -fsanitize=fuzzer-no-link,address -fno-omit-frame-pointer)
         target_compile_options(${target} PRIVATE ${flags})
         target_link_options(${target} PRIVATE ${flags})
+    endif()
+endfunction()
+
+# What makes an overrun end the program instead of going on with somebody's drawing: checked copies, guarded stacks,
+# tables of addresses that are read-only once a program runs, programs at random addresses. In what is optimised and
+# carries no instruments alone, and private; tests/checks/hardened.sh looks at what came of it.
+function(styleproperties_hardening target)
+    if(MSVC OR STYLEPROPERTIES_SANITIZERS OR STYLEPROPERTIES_COVERAGE OR STYLEPROPERTIES_FUZZ)
+        return()
+    endif()
+    set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+    # Some compilers bring a level of their own, which must not be defined twice.
+    target_compile_options(${target} PRIVATE
+        "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3;-fstack-protector-strong>")
+    if(UNIX AND NOT APPLE)
+        target_link_options(${target} PRIVATE "$<${optimised}:LINKER:-z,relro;LINKER:-z,now>")
+    endif()
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL "EXECUTABLE")
+        target_link_options(${target} PRIVATE $<${optimised}:-pie>)
     endif()
 endfunction()
