@@ -69,6 +69,7 @@ target_sources(styleproperties_reference_host PUBLIC FILE_SET HEADERS BASE_DIRS 
 # What a panel is made of.
 target_sources(styleproperties_panels PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES
     panels/PanelDatasource.h
+    panels/PanelInterface.h
     panels/PanelRegistration.h
     panels/PanelRow.h
     panels/PresetSubscription.h
@@ -88,6 +89,7 @@ target_sources(styleproperties_workbench PUBLIC FILE_SET HEADERS BASE_DIRS ${PRO
     apps/workbench/PanelDescription.h
     apps/workbench/PanelDialogs.h
     apps/workbench/PanelFolder.h
+    apps/workbench/PanelModule.h
     apps/workbench/PanelReading.h
     apps/workbench/Report.h
     apps/workbench/Selection.h
@@ -124,7 +126,7 @@ install(FILES
     ${PROJECT_BINARY_DIR}/StylePropertiesConfig.cmake
     ${PROJECT_BINARY_DIR}/StylePropertiesConfigVersion.cmake
     cmake/StylePropertiesAddPanel.cmake
-    panels/NoExports.map
+    panels/PanelExports.map
     DESTINATION ${package} COMPONENT dev)
 
 # The same for pkg-config.

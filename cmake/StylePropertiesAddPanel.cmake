@@ -2,7 +2,8 @@
 #
 # Makes the module NAME.so and copies its description, NAME.panel.xml of the current source folder, beside it, both
 # into the folder "panels" of the project's build folder: what `styleprops --panels` takes. The target is called NAME
-# unless TARGET says otherwise. It is linked to the library and to the base of table-driven panels, and exports nothing.
+# unless TARGET says otherwise. It is linked to the library and to the base of table-driven panels, and exports nothing but the
+# version that it was built for.
 #
 # What the panel needs of the host is left to the host's own library, as in the library itself. Where a linker wants
 # every symbol resolved, STYLEPROPERTIES_HOST_LIBRARY names that library.
@@ -37,7 +38,7 @@ function(styleproperties_add_panel name)
     target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
     if(UNIX AND NOT APPLE)
         # Beside this file as installed, and in its own folder in the project's tree.
-        find_file(map NoExports.map NO_CACHE REQUIRED NO_DEFAULT_PATH
+        find_file(map PanelExports.map NO_CACHE REQUIRED NO_DEFAULT_PATH
             PATHS ${CMAKE_CURRENT_FUNCTION_LIST_DIR} ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../panels)
         target_link_options(${target} PRIVATE LINKER:--version-script=${map})
         set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${map})

@@ -4,6 +4,7 @@
 #include "host/data_binding/DataSource.h"
 #include "host/data_binding/DataSourceFactory.h"
 #include "host/data_binding/IDataSourceRegistrar.h"
+#include "panels/PanelInterface.h"
 
 #include <concepts>
 #include <type_traits>
@@ -14,7 +15,8 @@ namespace Panels
 /// Keeps a factory of the panel class `T` registered for as long as it lives.
 ///
 /// One static object in each panel module: hosts find the class while the module is loaded. Whoever unloads a
-/// module ends the data sources that came from it before.
+/// module ends the data sources that came from it before. Programs refuse a module that registers a class
+/// whose name is taken.
 template <class T>
 class PanelRegistration
 {
@@ -40,3 +42,17 @@ private:
 };
 
 } // namespace Panels
+
+#if defined(_WIN32)
+#define STYLEPROPERTIES_PANEL_EXPORT __declspec(dllexport)
+#else
+#define STYLEPROPERTIES_PANEL_EXPORT __attribute__((used, visibility("default")))
+#endif
+
+/// Tells programs the version of panels that a module was built for; the one name that a module exports.
+extern "C" STYLEPROPERTIES_PANEL_EXPORT inline const char* styleproperties_panel_interface() noexcept
+{
+    return Panels::kPanelInterface;
+}
+
+#undef STYLEPROPERTIES_PANEL_EXPORT

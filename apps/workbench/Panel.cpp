@@ -5,6 +5,7 @@
 #include "reference_host/document/DocumentError.h"
 #include "reference_host/services/NativePaths.h"
 
+#include <exception>
 #include <string>
 #include <utility>
 
@@ -21,6 +22,25 @@ std::filesystem::path ModuleFileOf(const PanelDescription& description)
            ReferenceHost::LoadedModule::GetFileNameOf(OvxUtils::ToUtf8(description.module));
 }
 
+/// A class is somebody else's code: whatever it throws is told with its place.
+IDataSource* Make(ReferenceHost::DataContext& context, const OvxStringT& className, const std::string& file)
+{
+    std::string reason = "it throws what is no error";
+    try
+    {
+        return context.CreateDataSource(className);
+    }
+    catch (const std::exception& error)
+    {
+        reason = error.what();
+    }
+    catch (...) // The reason says so already.
+    {
+    }
+    throw DocumentError("its class " + OvxUtils::ToUtf8(className) + " cannot be made: " + reason, file,
+                        "a panel that can be made in every drawing");
+}
+
 BaseStylePropertiesDatasource* CreateDataSource(ReferenceHost::DataContext& context,
                                                 const PanelDescription& description)
 {
@@ -29,7 +49,7 @@ BaseStylePropertiesDatasource* CreateDataSource(ReferenceHost::DataContext& cont
     if (context.GetDataSource(description.className) != nullptr)
         throw DocumentError("another panel has the class " + className,
                             ReferenceHost::PathToUtf8(description.file), "a class of its own for each panel");
-    IDataSource* const created = context.CreateDataSource(description.className);
+    IDataSource* const created = Make(context, description.className, file);
     if (created == nullptr)
         throw DocumentError("it registers no class " + className, file,
                             "the class that " + ReferenceHost::PathToUtf8(description.file) + " names");

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "apps/workbench/PanelDescription.h"
+#include "apps/workbench/PanelModule.h"
 #include "datasource/BaseStylePropertiesDatasource.h"
 #include "host/utils/OvxStringT.h"
 #include "reference_host/services/DataContext.h"
-#include "reference_host/services/LoadedModule.h"
 
 namespace Workbench
 {
@@ -26,8 +26,8 @@ public:
     ///
     /// @throws ReferenceHost::ModuleError when the module cannot be loaded, ReferenceHost::DocumentError when
     /// it
-    ///         has no such class or the class does not bind what the description promises, and what the class
-    ///         itself throws.
+    ///         was not built for this program, has no such class, takes the name of another one's, cannot be
+    ///         made or does not bind what the description promises.
     Panel(PanelDescription itsDescription, ReferenceHost::DataContext& context);
 
     [[nodiscard]] const PanelDescription& GetDescription() const noexcept { return description; }
@@ -56,7 +56,7 @@ private:
     };
 
     PanelDescription description;
-    ReferenceHost::LoadedModule module; ///< Before the data source, which must be gone before it is unloaded.
+    PanelModule module; ///< Before the data source, which must be gone before it is unloaded.
     Resident resident;
 };
 

@@ -6,12 +6,14 @@
 #include "apps/workbench/UsageError.h"
 #include "host/utils/Utf8.h"
 #include "reference_host/document/DocumentError.h"
+#include "reference_host/services/LoadedModule.h"
 #include "reference_host/services/NativePaths.h"
 #include "reference_host/services/UserFolders.h"
 
 #include <algorithm>
 #include <iterator>
 #include <set>
+#include <string_view>
 #include <system_error>
 #include <tuple>
 #include <utility>
@@ -39,7 +41,8 @@ std::vector<Path> BuiltInFolders()
     return folders;
 }
 
-std::vector<Path> FindDescriptions(const Path& folder)
+/// The files of a folder whose names end so, in order.
+std::vector<Path> FindFiles(const Path& folder, std::string_view suffix)
 {
     const DocumentError missing("there is no such folder", PathToUtf8(folder), "a folder with panels");
     std::error_code error;
@@ -49,7 +52,7 @@ std::vector<Path> FindDescriptions(const Path& folder)
     std::filesystem::directory_iterator entry(folder, error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
     {
-        if (PathToUtf8(entry->path().filename()).ends_with(kPanelDescriptionSuffix))
+        if (PathToUtf8(entry->path().filename()).ends_with(suffix))
             files.push_back(entry->path());
     }
     if (error)
@@ -57,6 +60,25 @@ std::vector<Path> FindDescriptions(const Path& folder)
                             "a folder with panels");
     std::sort(files.begin(), files.end());
     return files;
+}
+
+/// A module without a description is loaded by nobody. One beside a bad description is not told of twice.
+void TellModulesWithoutDescription(PanelFolder& content, const Path& folder)
+{
+    std::set<Path> described;
+    for (const PanelDescription& panel : content.panels)
+        described.insert(ReferenceHost::LoadedModule::GetFileNameOf(OvxUtils::ToUtf8(panel.module)));
+    const std::string suffix = PathToUtf8(ReferenceHost::LoadedModule::GetFileNameOf({}));
+    for (const Path& module : FindFiles(folder, suffix))
+    {
+        const Path own = module.stem() += kPanelDescriptionSuffix;
+        std::error_code unknown;
+        if (described.contains(module.filename()) || std::filesystem::exists(folder / own, unknown))
+            continue;
+        content.problems.emplace_back(DocumentError("no description names this module", PathToUtf8(module),
+                                                    PathToUtf8(own) + " beside it")
+                                          .what());
+    }
 }
 
 /// Takes out the panels for which `findProblem` gives one, and keeps what is wrong with them.
@@ -133,7 +155,7 @@ Path FindPanelFolder(const std::optional<Path>& chosen)
 PanelFolder ReadPanelFolder(const Path& folder)
 {
     PanelFolder content;
-    for (const Path& file : FindDescriptions(folder))
+    for (const Path& file : FindFiles(folder, kPanelDescriptionSuffix))
     {
         try
         {
@@ -147,6 +169,7 @@ PanelFolder ReadPanelFolder(const Path& folder)
     if (content.panels.empty() && content.problems.empty())
         throw DocumentError("there is no panel in it", PathToUtf8(folder),
                             "descriptions whose names end in " + std::string(kPanelDescriptionSuffix));
+    TellModulesWithoutDescription(content, folder);
     SiftDoubles(content);
     std::sort(content.panels.begin(), content.panels.end(),
               [](const PanelDescription& left, const PanelDescription& right)

@@ -24,7 +24,7 @@ struct PanelFolder
 [[nodiscard]] std::filesystem::path FindPanelFolder(const std::optional<std::filesystem::path>& chosen);
 
 /// Reads all descriptions of a folder. One that is bad, or that takes a name or category which another one or
-/// the host has already, is a problem and leaves the others alone.
+/// the host has already, is a problem and leaves the others alone; so is a module that no description names.
 ///
 /// @throws ReferenceHost::DocumentError when there is no such folder, or no description in it.
 [[nodiscard]] PanelFolder ReadPanelFolder(const std::filesystem::path& folder);

@@ -26,7 +26,12 @@ class STYLEPROPERTIES_HOST_API LoadedModule
 public:
     /// Loads the library at `libraryFile`. All its symbols are resolved at once, and stay its own.
     ///
-    /// @throws ModuleError when there is no such file, it is no library, or a symbol is missing.
+    /// The first time it is loaded and unloaded in a process of its own as well, so that a module whose
+    /// static objects throw or crash ends that one and not the program.
+    ///
+    /// @throws ModuleError when there is no such file, it is no library, a symbol is missing, or loading it
+    /// would
+    ///         end the program.
     explicit LoadedModule(const std::filesystem::path& libraryFile);
 
     LoadedModule(const LoadedModule&) = delete;

@@ -169,6 +169,31 @@ TEST(PanelFolder, ReportsAPanelOfACategoryThatNothingBrings)
                 ElementsAre(HasSubstr("a.panel.xml: nothing brings the category \"glow\"")));
 }
 
+TEST(PanelFolder, ReportsAModuleThatNoDescriptionNames)
+{
+    const ScratchFolder folder;
+    folder.Write("a.panel.xml", Description("a", 1));
+    folder.Write("m.so", "the module of a");
+    folder.Write("orphan.so", "a module");
+
+    const PanelFolder content = ReadPanelFolder(folder.GetPath());
+
+    EXPECT_THAT(NamesOf(content.panels), ElementsAre(L"a"));
+    EXPECT_THAT(content.problems, ElementsAre((folder.GetPath() / "orphan.so").string() +
+                                              ": no description names this module; expected "
+                                              "orphan.panel.xml beside it"));
+}
+
+TEST(PanelFolder, TellsOnceOfAModuleBesideABadDescription)
+{
+    const ScratchFolder folder;
+    folder.Write("a.panel.xml", Description("a", 1));
+    folder.Write("bad.panel.xml", "<panel>");
+    folder.Write("bad.so", "a module");
+
+    EXPECT_THAT(ReadPanelFolder(folder.GetPath()).problems, ElementsAre(HasSubstr("bad.panel.xml, line 1")));
+}
+
 TEST(PanelFolder, ThatIsMissingIsAnError)
 {
     EXPECT_EQ(ReadingErrorOf("/no/such/folder"),

@@ -9,7 +9,6 @@
 #include <exception>
 #include <string>
 
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -113,8 +112,11 @@ TEST_F(LoadingAPanel, FailsForAClassThatAnotherPanelHas)
                 HasSubstr("another panel has the class ShadowPanelDatasource"));
 }
 
-TEST_F(LoadingAPanel, PassesOnWhatTheClassThrows)
+TEST_F(LoadingAPanel, TellsWhatTheClassThrows)
 {
-    EXPECT_THAT(ErrorOf(DescriptionOf("x", "FailingPanelDatasource")),
-                EndsWith("the licence of this panel has run out"));
+    EXPECT_EQ(ErrorOf(DescriptionOf("x", "FailingPanelDatasource")),
+              ModuleFile() +
+                  ": its class FailingPanelDatasource cannot be made: the licence of this panel has run out; "
+                  "expected a panel that can be made in every drawing");
+    EXPECT_THAT(context.GetDataSourceNames(), IsEmpty());
 }

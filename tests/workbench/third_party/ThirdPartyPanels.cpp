@@ -75,6 +75,28 @@ public:
     void FillDataSourceMap() {}
 };
 
+/// A panel that fails when it looks around.
+class LateFailingPanelDatasource final : public BaseStylePropertiesDatasource,
+                                         public DataSource<LateFailingPanelDatasource, true>
+{
+public:
+    void FillDataSourceMap() {}
+
+    void PostConstruct() override
+    {
+        BaseStylePropertiesDatasource::PostConstruct();
+        throw std::runtime_error("there is no neighbour");
+    }
+};
+
+/// A panel that fails with no error at all.
+class OddlyFailingPanelDatasource final : public BaseStylePropertiesDatasource,
+                                          public DataSource<OddlyFailingPanelDatasource, true>
+{
+public:
+    void FillDataSourceMap() { throw 42; }
+};
+
 namespace
 {
 
@@ -92,5 +114,7 @@ struct ClockRegistration
 
 const ClockRegistration clock;
 const Panels::PanelRegistration<FailingPanelDatasource> failing;
+const Panels::PanelRegistration<LateFailingPanelDatasource> lateFailing;
+const Panels::PanelRegistration<OddlyFailingPanelDatasource> oddlyFailing;
 
 } // namespace
