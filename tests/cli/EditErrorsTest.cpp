@@ -178,6 +178,9 @@ TEST_F(RefusedEdit, IsNotOneBesideAPanelThatCannotBeUsed)
         Run("set", {"shadow.visibility=visible", "--panels", panels.GetPath().string(), "--in-place"});
 
     EXPECT_EQ(result.status, 0) << result.error;
-    EXPECT_EQ(result.error, "styleprops: warning: the licence of this panel has run out\n");
+    EXPECT_EQ(result.error,
+              "styleprops: warning: " + (panels.GetPath() / "third-party.so").string() +
+                  ": its class FailingPanelDatasource cannot be made: the licence of this panel has run "
+                  "out; expected a panel that can be made in every drawing\n");
     EXPECT_THAT(drawing.Bytes(), HasSubstr("draw:shadow=\"visible\""));
 }

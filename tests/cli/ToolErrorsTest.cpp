@@ -131,7 +131,10 @@ TEST(BadInput, OfOneModuleIsReportedAndLeavesTheOthers)
         RunTool({"inspect", drawing.GetFile(), "--panels", panels.GetPath().string(), "--json"});
 
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.error, "styleprops: the licence of this panel has run out\n");
+    EXPECT_EQ(result.error,
+              "styleprops: " + (panels.GetPath() / "third-party.so").string() +
+                  ": its class FailingPanelDatasource cannot be made: the licence of this panel has run "
+                  "out; expected a panel that can be made in every drawing\n");
     const auto json = nlohmann::ordered_json::parse(result.output);
     EXPECT_EQ(json.at("reports").at(0).at("panels").at(0).at("panel"), "shadow");
 }
