@@ -173,7 +173,10 @@ OvxStringT MakeStyle(Editor::Workings& workings, const RowPlace& place, const st
         workings.Refuse(place, "cannot become a named style", "and the drawing made none");
     if (!name)
         return created;
-    workings.session.GetDrawing().RenameStyle(created, *name);
+    if (*name != created && !workings.session.GetDrawing().RenameStyle(created, *name))
+        throw UsageError("no drawing can hold " + Quoted(*name) +
+                         " as the name of a style; expected a text "
+                         "without control characters");
     return *name;
 }
 

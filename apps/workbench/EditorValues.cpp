@@ -127,6 +127,14 @@ PaletteWrite ParsePaletteWrite(const PaletteAssignment& assignment)
             ParsePlainColour(OvxStringViewT(L"palette:") + assignment.name, assignment.colour)};
 }
 
+void Define(ReferenceHost::Drawing& drawing, const PaletteWrite& write)
+{
+    drawing.DefinePaletteColour(write.name, write.look);
+    if (drawing.FindPaletteColour(write.name) != write.look)
+        throw UsageError("no drawing can hold " + Quoted(write.name) +
+                         " as the name of a colour; expected a text without control characters");
+}
+
 /// A name that the file does not define would mean nothing to whoever opens it. The empty name is that of
 /// none.
 void DemandDefinedName(const Editor::Workings& workings, const RowPlace& place, const OvxStringT& name)
@@ -175,7 +183,7 @@ void Editor::DefineColours(const std::vector<PaletteAssignment>& colours)
     const auto define = [&]
     {
         for (const PaletteWrite& write : writes)
-            workings->session.GetDrawing().DefinePaletteColour(write.name, write.look);
+            Define(workings->session.GetDrawing(), write);
     };
     const OvxStringT name =
         writes.size() == 1 ? NameStep(kPaletteStep, writes.front().name) : NameStep(kPaletteStep, L"");

@@ -3,6 +3,7 @@
 #include "reference_host/document/DrawingData.h"
 #include "reference_host/document/NamedStyleChanges.h"
 #include "reference_host/document/PaletteChange.h"
+#include "reference_host/document/StyleNames.h"
 #include "reference_host/style_model/StyleData.h"
 
 #include "host/resources/Resources.h"
@@ -68,7 +69,7 @@ Styles::Style* Drawing::AddStyle(const Styles::PropertyKey& category, const OvxS
     const auto& known = data->table.GetCategories();
     const bool isKnown =
         category == Styles::StyleCategoryName || std::ranges::find(known, category) != known.end();
-    if (!isKnown || name.empty() || FindStyle(name) != nullptr)
+    if (!isKnown || name.empty() || !CanBeSavedAsName(name) || FindStyle(name) != nullptr)
         return nullptr;
 
     const History::Step step(data->history, StepName(L"history.create-style"));
@@ -79,7 +80,9 @@ Styles::Style* Drawing::AddStyle(const Styles::PropertyKey& category, const OvxS
 
 bool Drawing::RenameStyle(const OvxStringT& name, const OvxStringT& newName)
 {
-    if (data->sheet.GetStyle(name) == nullptr || newName.empty() || FindStyle(newName) != nullptr)
+    if (data->sheet.GetStyle(name) == nullptr)
+        return false;
+    if (newName.empty() || !CanBeSavedAsName(newName) || FindStyle(newName) != nullptr)
         return false;
 
     const History::Step step(data->history, StepName(L"history.rename-style"));
@@ -90,7 +93,7 @@ bool Drawing::RenameStyle(const OvxStringT& name, const OvxStringT& newName)
 
 bool Drawing::DefinePaletteColour(const OvxStringT& name, CLR_COLORSPEC::Rgb look)
 {
-    if (name.empty() || FindPaletteColour(name) == look)
+    if (name.empty() || !CanBeSavedAsName(name) || FindPaletteColour(name) == look)
         return false;
 
     const History::Step step(data->history, StepName(L"history.palette"));

@@ -132,6 +132,21 @@ std::string EncodeStyleName(const OvxStringT& name)
     return encoded;
 }
 
+bool CanBeSavedAsName(const OvxStringT& name)
+{
+    const std::string plain = OvxUtils::ToUtf8(name);
+    for (std::size_t place = 0; place < plain.size();)
+    {
+        const std::string_view rest = std::string_view(plain).substr(place);
+        const std::size_t length = std::max<std::size_t>(MeasureMultibyte(rest), 1);
+        if (!IsXmlCharacter(CodePointOf(rest, length)))
+            return false;
+        place += length;
+    }
+    // What is no character became another one.
+    return OvxUtils::FromUtf8(plain) == name;
+}
+
 OvxStringT DecodeStyleName(std::string_view encoded)
 {
     std::string decoded;

@@ -19,4 +19,8 @@ namespace ReferenceHost
 /// Makes a name fit for XML, so that DecodeStyleName() gives it back: "Mid One" is "Mid_20_One".
 [[nodiscard]] std::string EncodeStyleName(const OvxStringT& name);
 
+/// Tells whether a file can hold a name: not one with a control character, nor with anything else that XML
+/// does not allow or that is no character.
+[[nodiscard]] bool CanBeSavedAsName(const OvxStringT& name);
+
 } // namespace ReferenceHost

@@ -296,6 +296,16 @@ TEST_F(CreatingAStyle, RefusesANameThatIsTakenOrEmpty)
     EXPECT_EQ(editor.GetStepCount(), 0U);
 }
 
+TEST_F(CreatingAStyle, RefusesANameThatNoFileCanHoldAndMakesNone)
+{
+    const std::string before = open.Dump();
+
+    EXPECT_THROW(editor.CreateStyle(L"style", L"Bell\a"), UsageError);
+
+    EXPECT_EQ(open.Dump(), before);
+    EXPECT_EQ(editor.GetStepCount(), 0U);
+}
+
 TEST_F(CreatingAStyle, RefusesTheDefaultStyles)
 {
     open.Select(L"defaults");

@@ -300,6 +300,13 @@ TEST_F(DefiningAColour, RefusesAColourThatCannotBeReadAndAnEmptyName)
     EXPECT_EQ(open.GetSession().GetDrawing().GetPalette().size(), 1U);
 }
 
+TEST_F(DefiningAColour, RefusesANameThatNoFileCanHoldAndAddsNone)
+{
+    EXPECT_THROW(editor.DefineColours({{L"Good", L"red"}, {L"Bell\a", L"red"}}), UsageError);
+
+    EXPECT_EQ(open.GetSession().GetDrawing().GetPalette().size(), 1U);
+}
+
 TEST(NamingADefinition, TakesWhatTheDrawingDefinesAndTheEmptyNameForNone)
 {
     OpenEditor open(

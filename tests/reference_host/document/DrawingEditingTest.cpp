@@ -88,6 +88,15 @@ TEST_F(DrawingEditing, RefusesNamesThatAreEmptyOrTakenAndUnknownCategories)
     EXPECT_EQ(history.GetStepCount(), 0U);
 }
 
+TEST_F(DrawingEditing, RefusesNamesThatNoFileCanHold)
+{
+    EXPECT_EQ(drawing.AddStyle(Styles::StyleCategoryName, L"Bell\a"), nullptr);
+    EXPECT_FALSE(drawing.RenameStyle(L"Base", L"\x0e"));
+    EXPECT_FALSE(drawing.DefinePaletteColour(L"Deep\x01", {1, 2, 3}));
+
+    EXPECT_EQ(history.GetStepCount(), 0U);
+}
+
 TEST_F(DrawingEditing, TakesAddedStylesBackWithAllThatRefersToThem)
 {
     const std::vector<std::string> before = Dump();

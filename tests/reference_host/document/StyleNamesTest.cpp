@@ -58,4 +58,18 @@ TEST(EncodedNames, NeverHoldSurrogatesOrControlCharacters)
     EXPECT_EQ(DecodeStyleName("a_1f_b"), OvxStringT(L"a_1f_b"));
 }
 
+TEST(Names, CanBeSavedWhenXmlAllowsTheirCharacters)
+{
+    for (const wchar_t* name :
+         {L"Mid One", L"a_b & <c> \"d\"", L"line\nbreak\ttab", L"Gr\u00fcn", L"\U0001f600"})
+        EXPECT_TRUE(CanBeSavedAsName(name));
+}
+
+TEST(Names, CannotBeSavedWithControlCharactersAndWhatIsNoCharacter)
+{
+    for (const std::wstring& name : {std::wstring(L"\x0e"), std::wstring(L"a\0b", 3),
+                                     std::wstring(L"a\xFFFE"), std::wstring(L"\xD800 b")})
+        EXPECT_FALSE(CanBeSavedAsName(OvxStringT(name)));
+}
+
 } // namespace
