@@ -62,23 +62,35 @@ PropertyKey Key(OvxStringViewT text)
     return PropertyKey(Styles::PooledString<Styles::StringPool>(text));
 }
 
-/// Every style that a person can edit, in an order that depends on the drawing alone.
-std::vector<Style*> StylesOf(Drawing& drawing)
+/// A style that a person can edit, and in which category.
+struct Editable
 {
-    std::vector<Style*> styles{&drawing.GetDefaultStyle()};
+    Style* style;
+    PropertyKey category; ///< Empty for all of them.
+};
+
+/// In an order that depends on the drawing alone.
+std::vector<Editable> EditablesOf(Drawing& drawing)
+{
+    std::vector<Editable> editables{{&drawing.GetDefaultStyle(), {}}};
     for (const OvxStringT& name : drawing.GetStyleSheet().GetNames())
-        styles.push_back(drawing.GetStyleSheet().GetStyle(name));
+        editables.push_back({drawing.GetStyleSheet().GetStyle(name), {}});
     for (ReferenceHost::DrawingObject& object : drawing.GetObjects())
     {
         if (object.IsGroup())
             continue;
-        styles.push_back(object.GetStyle());
+        editables.push_back({object.GetStyle(), {}});
         for (ReferenceHost::TextUnit& paragraph : object.GetParagraphs())
-            styles.push_back(paragraph.GetStyle());
+            editables.push_back({paragraph.GetStyle(), Styles::GetParagraphStyleCategoryName()});
         for (ReferenceHost::TextUnit& run : object.GetRuns())
-            styles.push_back(run.GetStyle());
+            editables.push_back({run.GetStyle(), Styles::GetCharacterStyleCategoryName()});
     }
-    return styles;
+    return editables;
+}
+
+bool MayEdit(const Editable& editable, const PropertyKey& category)
+{
+    return editable.category == PropertyKey() || editable.category == category;
 }
 
 OvxStringT ChooseName(Drawing& drawing, Choices& choices)
@@ -119,20 +131,22 @@ Any ChooseValue(Kind kind, Drawing& drawing, Choices& choices)
     }
 }
 
-void SetValue(Drawing& drawing, Style& style, Choices& choices)
+void SetValue(Drawing& drawing, const Editable& editable, Choices& choices)
 {
     const Property& property = kProperties[choices.Below(kProperties.size())];
-    Style* const substyle = Styles::GetStyleOrSubstyle(&style, Key(property.category), false);
-    if (substyle != nullptr)
+    Style* const substyle = Styles::GetStyleOrSubstyle(editable.style, Key(property.category), false);
+    if (substyle != nullptr && MayEdit(editable, Key(property.category)))
         substyle->SetProperty(Key(property.key), ChooseValue(property.kind, drawing, choices));
 }
 
 /// Takes the first value away that the style sets itself.
-void ClearValue(Style& style)
+void ClearValue(const Editable& editable)
 {
-    const Styles::PropertyPaths paths = Styles::GetOverriddenPropertyPaths(style);
-    if (!paths.empty())
-        style.SetPathProperty(paths.front(), Any());
+    for (const Styles::PropertyPath& path : Styles::GetOverriddenPropertyPaths(*editable.style))
+    {
+        if (MayEdit(editable, path.front()))
+            return editable.style->SetPathProperty(path, Any());
+    }
 }
 
 void AddStyle(Drawing& drawing, Choices& choices)
@@ -168,14 +182,14 @@ void DefineColour(Drawing& drawing, Choices& choices)
 void Edit(Drawing& drawing, unsigned operation, Choices& choices)
 {
     const ReferenceHost::History::Step step(drawing.GetHistory(), L"edit");
-    const std::vector<Style*> styles = StylesOf(drawing);
-    Style& style = *styles[choices.Below(styles.size())];
+    const std::vector<Editable> editables = EditablesOf(drawing);
+    const Editable& editable = editables[choices.Below(editables.size())];
     switch (operation)
     {
     case 2:
-        return ClearValue(style);
+        return ClearValue(editable);
     case 3:
-        return SetParent(drawing, style, choices);
+        return SetParent(drawing, *editable.style, choices);
     case 4:
         return AddStyle(drawing, choices);
     case 5:
@@ -183,7 +197,7 @@ void Edit(Drawing& drawing, unsigned operation, Choices& choices)
     case 6:
         return DefineColour(drawing, choices);
     default:
-        return SetValue(drawing, style, choices);
+        return SetValue(drawing, editable, choices);
     }
 }
 

@@ -3,11 +3,13 @@
 #include "fuzz/ChosenEdits.h"
 #include "fuzz/Demand.h"
 #include "fuzz/InputFile.h"
+#include "host/utils/Utf8.h"
 #include "reference_host/document/DocumentError.h"
 #include "reference_host/document/Drawing.h"
 #include "reference_host/document/picture/DrawingPicture.h"
 #include "reference_host/history/History.h"
 #include "tests/reference_host/document/DrawingDump.h"
+#include "tests/reference_host/document/FlatDrawing.h"
 
 #include <memory>
 #include <vector>
@@ -25,11 +27,36 @@ std::unique_ptr<Drawing> Open(const std::string& bytes)
     return Drawing::Open(WriteInputFile(bytes), warnings);
 }
 
+/// What a unit of text sets itself in the category that it is edited in. Its other values follow what is
+/// around it.
+std::string LineOf(ReferenceHost::TextUnit& unit)
+{
+    const bool isRun = unit.GetKind() == ReferenceHost::TextUnit::Kind::Run;
+    std::string line = isRun ? "run" : "paragraph";
+    for (const std::string& own : AllOwnOf(unit.GetStyle()))
+    {
+        if (own.starts_with(isRun ? "character." : "paragraph."))
+            line += " " + own;
+    }
+    return line + "\n";
+}
+
 std::string AllOf(Drawing& drawing)
 {
     std::string all;
     for (const std::string& line : DumpOf(drawing))
-        all += line + "\n";
+    {
+        if (!line.starts_with("paragraph of") && !line.starts_with("run of"))
+            all += line + "\n";
+    }
+    for (ReferenceHost::DrawingObject& object : drawing.GetObjects())
+    {
+        all += "texts of " + OvxUtils::ToUtf8(object.GetId()) + "\n";
+        for (ReferenceHost::TextUnit& paragraph : object.GetParagraphs())
+            all += LineOf(paragraph);
+        for (ReferenceHost::TextUnit& run : object.GetRuns())
+            all += LineOf(run);
+    }
     return all;
 }
 

@@ -28,6 +28,14 @@ using Workbench::StyleListPart;
 constexpr const wchar_t* kPanel = L"style";
 constexpr std::size_t kMostEntries = 19; ///< Eighteen styles, and that there is none.
 
+/// A name of Unicode characters, which is what names from files, terminals and windows are made of.
+OvxStringT NameOf(std::string_view bytes)
+{
+    std::string name = OvxUtils::ToUtf8(Fuzz::WideText(bytes));
+    std::erase(name, '\0');
+    return OvxUtils::FromUtf8(name);
+}
+
 void AddStyles(ReferenceHost::Drawing& drawing, std::string_view lines)
 {
     const ReferenceHost::History::Step step(drawing.GetHistory(), L"styles");
@@ -38,8 +46,7 @@ void AddStyles(ReferenceHost::Drawing& drawing, std::string_view lines)
         const std::size_t parent = choices.Below(names.size() + 1);
         Styles::Style* const inherited =
             parent < names.size() ? drawing.GetStyleSheet().GetStyle(names[parent]) : nullptr;
-        Styles::Style* const added =
-            drawing.AddStyle(Styles::StyleCategoryName, Fuzz::WideText(choices.Rest()));
+        Styles::Style* const added = drawing.AddStyle(Styles::StyleCategoryName, NameOf(choices.Rest()));
         if (added != nullptr)
             added->SetParent(inherited);
     }
