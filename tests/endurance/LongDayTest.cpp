@@ -48,7 +48,7 @@ std::string ReadFile(const std::filesystem::path& file)
 void Save(Workbench::Editor& editor, const std::filesystem::path& file)
 {
     std::vector<std::string> warnings;
-    editor.Save(file, false, warnings);
+    editor.Save(file, {}, warnings);
     EXPECT_THAT(warnings, IsEmpty());
 }
 
