@@ -162,20 +162,20 @@ public:
 
     /// Adds a named style without values, behind all others; a whole style has all its substyles.
     ///
-    /// @returns the style; null, and nothing happens, when `name` is empty or taken, also by a style of a
-    /// sheet
-    ///          outside the drawing, which it would hide, or the category is not one of this drawing's.
+    /// @returns the style; null, and nothing happens, when `name` is empty, taken, also by a style of a sheet
+    ///          outside the drawing, which it would hide, or holds what XML does not, such as a control
+    ///          character, or the category is not one of this drawing's.
     Styles::Style* AddStyle(const Styles::PropertyKey& category, const OvxStringT& name);
 
     /// Gives a named style another name, which is also what people see of it from then on.
     ///
-    /// @returns whether it did: not when `name` is unknown, or `newName` is empty or taken as for AddStyle().
+    /// @returns whether it did: not when `name` is unknown, or `newName` is none that AddStyle() takes.
     bool RenameStyle(const OvxStringT& name, const OvxStringT& newName);
 
     /// Adds an entry to the palette, or changes its look; every colour in the drawing that refers to it gets
     /// the new look.
     ///
-    /// @returns whether anything changed: not when `name` is empty, or the entry looks like this already.
+    /// @returns whether anything changed: not when `name` is empty or none that XML holds, or has this look.
     bool DefinePaletteColour(const OvxStringT& name, CLR_COLORSPEC::Rgb look);
 
     // Saving

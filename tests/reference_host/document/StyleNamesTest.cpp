@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+using ReferenceHost::CanBeSavedAsName;
 using ReferenceHost::DecodeStyleName;
 
 namespace
