@@ -20,6 +20,7 @@ inline constexpr std::chrono::seconds kModuleTrialLimit{10};
 /// file where no process can be made, and on Windows.
 ///
 /// @throws ModuleError for a module that ends the process that loads it, or does not finish within `limit`.
-STYLEPROPERTIES_HOST_API void TryModule(const std::filesystem::path& file, std::chrono::seconds limit = kModuleTrialLimit);
+STYLEPROPERTIES_HOST_API void TryModule(const std::filesystem::path& file,
+                                        std::chrono::seconds limit = kModuleTrialLimit);
 
 } // namespace ReferenceHost
