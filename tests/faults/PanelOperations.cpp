@@ -244,6 +244,12 @@ void WriteOne(FaultSubject& subject)
     subject.panel.WriteTarget(Key(L"color"), Any(OvxStringT(L"a long text")), nullptr, nullptr);
 }
 
+void WriteASubstyle(FaultSubject& subject)
+{
+    const PropertyPaths overrides = Paths({L"stop"});
+    subject.panel.ModifySubstyles(Paths({L"start"}), &FillOf(subject.first), Key(L"gradient"), &overrides);
+}
+
 void HandInSecond(FaultSubject& subject)
 {
     subject.panel.SetTargetStyle({&subject.second, nullptr}, false, Path({L"style", L"fill"}),
@@ -305,6 +311,7 @@ std::vector<PanelOperation> OfWriting()
         {"WritesDefaultsByTheApplicator", OnDefaultsOfApplicator, WriteTwo},
         {"GathersAValue", InGroup, WriteOne},
         {"GathersTwoValues", InGroup, WriteTwo, FailurePromise::StaysUsable},
+        {"GathersASubstyle", InGroup, WriteASubstyle},
         {"GathersNothing", InGroup, [](S& s) { s.panel.ClearProperties(Paths({L"color"})); }},
         {"OpensAGroup", OnDefaults, [](S& s) { s.panel.StartGroupModify(); }},
         {"OpensAGroupAgain", InGroup, [](S& s) { s.panel.StartGroupModify(); }},
@@ -319,12 +326,7 @@ std::vector<PanelOperation> OfWriting()
         {"DropsAParent", OnObjects, [](S& s) { s.panel.SetNoParent(&s.source, &s.first); }},
         {"WritesANamedDefault", OnObjects,
          [](S& s) { s.panel.WriteToDefault(L"Base", Key(L"color"), Any(8)); }},
-        {"WritesASubstyle", OnObjects,
-         [](S& s)
-         {
-             const PropertyPaths overrides = Paths({L"stop"});
-             s.panel.ModifySubstyles(Paths({L"start"}), &FillOf(s.first), Key(L"gradient"), &overrides);
-         }},
+        {"WritesASubstyle", OnObjects, WriteASubstyle},
         {"WritesAChange", OnObjects,
          [](S& s) { s.panel.ModifyStyles(std::make_unique<Style>(FillOf(s.first)), nullptr); }},
     };
