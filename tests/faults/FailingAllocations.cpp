@@ -102,7 +102,7 @@ std::size_t CountLive() noexcept
 
 } // namespace FailingAllocations
 
-// The forms for arrays and those that give null come to these.
+// All forms: those of the standard library come to the first two, those of a sanitizer do not.
 
 void* operator new(std::size_t size)
 {
@@ -112,6 +112,28 @@ void* operator new(std::size_t size)
 void* operator new(std::size_t size, std::align_val_t alignment)
 {
     return AllocateAligned(size, static_cast<std::size_t>(alignment));
+}
+
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept
+{
+    try
+    {
+        return Allocate(size);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return nullptr;
+    }
+}
+
+void* operator new[](std::size_t size)
+{
+    return Allocate(size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept
+{
+    return operator new(size, tag);
 }
 
 void operator delete(void* memory) noexcept
@@ -130,6 +152,26 @@ void operator delete(void* memory, std::align_val_t /*alignment*/) noexcept
 }
 
 void operator delete(void* memory, std::size_t /*size*/, std::align_val_t /*alignment*/) noexcept
+{
+    Free(memory);
+}
+
+void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept
+{
+    Free(memory);
+}
+
+void operator delete[](void* memory) noexcept
+{
+    Free(memory);
+}
+
+void operator delete[](void* memory, std::size_t /*size*/) noexcept
+{
+    Free(memory);
+}
+
+void operator delete[](void* memory, const std::nothrow_t& /*tag*/) noexcept
 {
     Free(memory);
 }
