@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <string>
 
 namespace
 {
@@ -24,10 +25,11 @@ TEST(PresetFileName, TellsNamesApartThatLookAlike)
 
 TEST(PresetFileName, IsSafeForAnyText)
 {
+    const std::wstring longName(5000, L'x');
+    const std::wstring withNul(L"nul\0inside", 10);
     for (const OvxStringT& name :
          {OvxStringT(L"../../etc/passwd"), OvxStringT(L"."), OvxStringT(L""), OvxStringT(L"CON"),
-          OvxStringT(L"a\nb\tc"), OvxStringT(std::wstring(5000, L'x')),
-          OvxStringT(std::wstring(L"nul\0inside", 10))})
+          OvxStringT(L"a\nb\tc"), OvxStringT(longName), OvxStringT(withNul)})
     {
         const std::string file = MakePresetFileName(name);
 
