@@ -177,10 +177,11 @@ void StyleDetails::AddStyle(pugi::xml_node style, XmlNames& names)
         if (kind != XmlName{Odf::kStyle, "graphic-properties"} &&
             kind != XmlName{Odf::kStyle, "drawing-page-properties"})
             continue;
-        for (const XmlName& attribute : kAttributes)
+        for (const pugi::xml_attribute attribute : element.attributes())
         {
-            if (names.HasAttribute(element, attribute))
-                record.attributes.emplace(attribute.local, names.Attribute(element, attribute));
+            const auto* const wanted = std::ranges::find(kAttributes, names.Of(attribute));
+            if (wanted != kAttributes.end())
+                record.attributes.emplace(wanted->local, attribute.value());
         }
     }
     if (!isDefault)
