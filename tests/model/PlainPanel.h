@@ -144,7 +144,7 @@ private:
 
     [[nodiscard]] bool IsEditable(Key ofCategory) const;
     [[nodiscard]] bool TakesPart(const PlainPanel* sibling) const;
-    [[nodiscard]] std::string CurrentParentName(const PlainSheet& sheet);
+    [[nodiscard]] std::string ParentNameOf(const PlainStyle* target, const PlainSheet& sheet) const;
     [[nodiscard]] std::string ParentStyleName();
     void MergeSiblings(bool ignoreCharacterStyles);
     void WriteOwnStyles(const Paths& paths, Change change, const Paths* overridePaths);

@@ -29,9 +29,8 @@ std::string PlainNode::Text() const
     return text;
 }
 
-std::string PlainPanel::CurrentParentName(const PlainSheet& sheet)
+std::string PlainPanel::ParentNameOf(const PlainStyle* target, const PlainSheet& sheet) const
 {
-    const PlainStyle* target = GetTargetStyle(0);
     return target == nullptr ? "" : host.GetStyleName(sheet, target->parent);
 }
 
@@ -157,7 +156,7 @@ void PlainPanel::SetApplyStyleResource(unsigned id)
     const PlainSheet* sheet = host.HasSource() ? host.GetStyleSheet() : nullptr;
     if (sheet == nullptr)
         return;
-    const std::string current = CurrentParentName(*sheet);
+    const std::string current = ParentNameOf(GetTargetStyle(0), *sheet);
     if (resourceList.tree == nullptr)
         return;
     PlainNode picked;
@@ -179,11 +178,14 @@ void PlainPanel::SetApplyStyleResource(unsigned id)
 void PlainPanel::ApplyStyleResource(const std::string& applied)
 {
     const PlainSheet* sheet = host.HasSource() ? host.GetStyleSheet() : nullptr;
-    if (sheet == nullptr || applied == CurrentParentName(*sheet))
+    if (sheet == nullptr)
+        return;
+    PlainStyle* target = GetTargetStyle(0);
+    if (applied == ParentNameOf(target, *sheet))
         return;
     if (applied.empty())
     {
-        SetNoParent(true, GetTargetStyle(0));
+        SetNoParent(true, target);
         return;
     }
     const PlainStyle* style = host.GetStyle(*sheet, applied);
@@ -194,7 +196,6 @@ void PlainPanel::ApplyStyleResource(const std::string& applied)
         host.Record("source.ApplyStyle(" + NameOf(style) + ", reserved=false)");
         return;
     }
-    const PlainStyle* target = GetTargetStyle(0);
     if (target != nullptr)
         host.Record("source.SetParent(target=" + NameOf(target) + ", parent=" + NameOf(style) +
                     ", reserved=true)");
