@@ -51,9 +51,9 @@ PropertyPaths Prefixed(const PropertyKey& key, const PropertyPaths& paths)
     return prefixed;
 }
 
-void Append(PropertyPaths& paths, const PropertyPaths& added)
+void Append(PropertyPaths& list, const PropertyPaths& further)
 {
-    paths.insert(paths.end(), added.begin(), added.end());
+    list.insert(list.end(), further.begin(), further.end());
 }
 
 /// Makes room for further paths, with the spare room that growing lists have.
