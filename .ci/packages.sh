@@ -2,7 +2,7 @@
 # when a dependency comes or goes.
 
 readonly BUILD_PACKAGES=(cmake g++ ninja-build pkg-config libpugixml-dev libzip-dev zlib1g-dev libcli11-dev nlohmann-json3-dev)
-readonly TEST_PACKAGES=(libgtest-dev libgmock-dev)
+readonly TEST_PACKAGES=(libgtest-dev libgmock-dev python3)
 readonly DESKTOP_PACKAGES=(qt6-base-dev qt6-svg-dev qt6-translations-l10n)
 readonly CHECK_PACKAGES=(clang clang-tidy clang-format cppcheck libclang-rt-14-dev)
 readonly FUZZ_PACKAGES=(clang libclang-rt-14-dev)
