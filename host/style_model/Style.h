@@ -24,8 +24,7 @@ struct StyleData;
 ///
 /// 1. the own properties, and those of the parents, nearest first;
 /// 2. for a substyle, the substyle of the same name in each parent of its owner, nearest first, each followed
-/// by its own
-///    parents; then likewise outwards, for the owner's owner;
+///    by its own parents; then likewise outwards, for the owner's owner;
 /// 3. what the host falls back to (its document's defaults), which is no parent and never shows among the
 /// parents.
 ///

@@ -31,8 +31,8 @@ struct AnyOperations
                  void* destination) noexcept; ///< Moves one storage into a raw one, ending the source.
     void (*destroy)(void* storage) noexcept;  ///< Ends the value in a storage.
     const void* (*get)(const void* storage) noexcept;   ///< The address of the held value.
-    bool (*equal)(const void* left, const void* right); ///< `==` of two held values.
-    bool (*less)(const void* left, const void* right);  ///< `<` of two held values.
+    bool (*equal)(const void* left, const void* right); ///< `==` of the values in two storages.
+    bool (*less)(const void* left, const void* right);  ///< `<` of the values in two storages.
 };
 
 /// The table of one type.
@@ -132,9 +132,9 @@ public:
     {
         if (left.operations == nullptr || right.operations == nullptr)
             return left.operations == right.operations;
-        return *left.operations->type == *right.operations->type &&
-               left.operations->equal(left.operations->get(left.storage),
-                                      right.operations->get(right.storage));
+        const bool isSameType =
+            left.operations == right.operations || *left.operations->type == *right.operations->type;
+        return isSameType && left.operations->equal(left.storage, right.storage);
     }
 
     /// Orders by the held values' `<`; an empty one stands before all others, different types by their type.
@@ -144,8 +144,7 @@ public:
             return left.operations == nullptr && right.operations != nullptr;
         if (*left.operations->type != *right.operations->type)
             return left.operations->type->before(*right.operations->type);
-        return left.operations->less(left.operations->get(left.storage),
-                                     right.operations->get(right.storage));
+        return left.operations->less(left.storage, right.storage);
     }
 
 private:
@@ -204,7 +203,7 @@ const AnyOperations* OperationsOf()
         [](const void* left, const void* right) -> bool
         {
             if constexpr (std::equality_comparable<T>)
-                return *static_cast<const T*>(left) == *static_cast<const T*>(right);
+                return *value(left) == *value(right);
             else
                 return left == right;
         },
@@ -215,7 +214,7 @@ const AnyOperations* OperationsOf()
                                   a < b
                                   } -> std::convertible_to<bool>;
                           })
-                return *static_cast<const T*>(left) < *static_cast<const T*>(right);
+                return *value(left) < *value(right);
             else
                 return std::less<const void*>()(left, right);
         }};

@@ -48,8 +48,7 @@ public:
     /// `withdrawn` must not call the registry. It must be removed with RemoveCallback before its module goes.
     ///
     /// @returns the entry, owned by the registry; may be null. It is never freed: after it was taken away, it
-    /// holds no
-    ///          data until a later call fills it again.
+    ///          holds no data until a later call fills it again.
     static SingletonEntry* GetEntryForType(std::type_index type, CreateData createData, bool create,
                                            const basic_safe_function<void()>& withdrawn);
 

@@ -3,11 +3,15 @@
 #include "reference_host/style_model/ConstantTexts.h"
 #include "reference_host/utils/Immortal.h"
 
+#include <array>
 #include <deque>
+#include <memory>
 #include <mutex>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace Styles
 {
@@ -31,29 +35,35 @@ public:
         if (found != known.end())
             return found->second;
 
-        Kept& added = kept.emplace_back(Kept{std::wstring(characters), {}});
-        added.text.characters = added.characters;
+        const std::wstring& kept = characterLists.emplace_back(characters);
         try
         {
-            known.emplace(added.text.characters, &added.text);
+            if (lastBlock.empty())
+                lastBlock = AddBlock();
+            known.emplace(kept, &lastBlock.front());
         }
         catch (...)
         {
-            kept.pop_back();
+            characterLists.pop_back();
             throw;
         }
-        return &added.text;
+        StringPool::Text& added = lastBlock.front();
+        added.characters = kept;
+        lastBlock = lastBlock.subspan(1);
+        return &added;
     }
 
 private:
-    struct Kept
-    {
-        std::wstring characters; ///< What the text shows.
-        StringPool::Text text;
-    };
+    /// Texts stand side by side, in the order in which they came: their addresses number them.
+    using Block = std::array<StringPool::Text, 256>;
+
+    std::span<StringPool::Text> AddBlock() { return *blocks.emplace_back(std::make_unique<Block>()); }
 
     std::mutex mutex;
-    std::deque<Kept> kept; ///< A deque keeps the addresses of what it holds.
+    std::deque<std::wstring>
+        characterLists; ///< What the texts show; a deque keeps the addresses of what it holds.
+    std::vector<std::unique_ptr<Block>> blocks;
+    std::span<StringPool::Text> lastBlock; ///< What is left of the last block.
     std::unordered_map<std::wstring_view, const StringPool::Text*> known;
 };
 

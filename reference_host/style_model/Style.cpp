@@ -24,7 +24,8 @@ const OvxUtils::Any& NoValue()
 }
 
 /// The effective value of `key` at the place `below` under `style`.
-const OvxUtils::Any& FindEffective(const Style& style, ReferenceHost::Names below, const PropertyKey& key)
+const OvxUtils::Any& FindEffectiveBelow(const Style& style, ReferenceHost::Names below,
+                                        const PropertyKey& key)
 {
     const OvxUtils::Any* found = nullptr;
     ReferenceHost::VisitSources(style, below,
@@ -89,7 +90,8 @@ Style::~Style()
 
 const OvxUtils::Any& Style::GetProperty(const PropertyKey& key) const
 {
-    return FindEffective(*this, {}, key);
+    const OvxUtils::Any* const found = ReferenceHost::FindEffective(*this, key);
+    return found == nullptr ? NoValue() : *found;
 }
 
 const OvxUtils::Any& Style::GetPathProperty(const PropertyPath& path) const
@@ -109,7 +111,7 @@ const OvxUtils::Any& Style::GetPathProperty(const PropertyPath& path) const
         place = next;
         below = below.subspan(1);
     }
-    return FindEffective(*place, below, path.back());
+    return below.empty() ? place->GetProperty(path.back()) : FindEffectiveBelow(*place, below, path.back());
 }
 
 void Style::SetProperty(const PropertyKey& key, const OvxUtils::Any& value)

@@ -23,16 +23,30 @@ StyleData::~StyleData()
     ReferenceHost::StyleLink::ReleaseAll(firstLink);
 }
 
-const OvxUtils::Any* StyleData::FindOwn(const PropertyKey& key) const noexcept
+Style* StyleData::SearchSubstyle(const PropertyKey& key) const noexcept
 {
-    const auto place = FindPlace(properties, key);
-    return place != properties.end() && place->key == key ? &place->value : nullptr;
+    // A style has a handful at the most.
+    const auto place = std::ranges::find(substyles, key, &OwnSubstyle::key);
+    if (place == substyles.end())
+        return nullptr;
+    if (owner == nullptr)
+        found = {IdentityOf(key), place->style.get()};
+    return place->style.get();
 }
 
-Style* StyleData::FindSubstyle(const PropertyKey& key) const noexcept
+const Style* StyleData::SearchCounterpart() const noexcept
 {
-    const auto place = FindPlace(substyles, key);
-    return place != substyles.end() && place->key == key ? place->style.get() : nullptr;
+    if (owner == nullptr)
+        return nullptr;
+
+    Style* counterpart = nullptr;
+    const Style* level = Of(*owner).GetParent();
+    for (; level != nullptr && counterpart == nullptr; level = Of(*level).GetParent())
+        counterpart = Of(*level).FindSubstyle(name);
+    // A counterpart may lie deeper, where it is not all that is inherited: it is not remembered there.
+    if (Of(*owner).owner == nullptr)
+        found = {ReferenceHost::InheritanceVersion::Get(), counterpart};
+    return counterpart;
 }
 
 bool StyleData::HasValues() const noexcept
@@ -44,27 +58,25 @@ bool StyleData::HasValues() const noexcept
 
 void StyleData::Store(const PropertyKey& key, OvxUtils::Any value)
 {
-    const auto place = FindPlace(properties, key);
-    const bool isSet = place != properties.end() && place->key == key;
-    if (value.IsEmpty() && !isSet)
+    if (value.IsEmpty() && FindOwn(key) == nullptr)
         return;
 
     TellJournal();
     if (value.IsEmpty())
-        properties.erase(place);
-    else if (isSet)
-        place->value = std::move(value);
+        properties.Remove(key);
     else
-        properties.insert(place, OwnProperty{key, std::move(value)});
+        properties.Set(key, std::move(value));
+    TellInheritors();
 }
 
-void StyleData::StoreAll(std::vector<OwnProperty> values)
+void StyleData::StoreAll(OwnProperties values)
 {
     if (properties.empty() && values.empty())
         return;
 
     TellJournal();
     properties = std::move(values);
+    TellInheritors();
 }
 
 void StyleData::Place(Style& self, const PropertyKey& key, std::unique_ptr<Style> substyle)
@@ -76,6 +88,8 @@ void StyleData::Place(Style& self, const PropertyKey& key, std::unique_ptr<Style
         if (journal != nullptr)
             journal->TakeRemoved(self, key, present->style);
         substyles.erase(present);
+        found = {};
+        ReferenceHost::InheritanceVersion::Change();
     }
     if (substyle == nullptr)
         return;
@@ -85,12 +99,12 @@ void StyleData::Place(Style& self, const PropertyKey& key, std::unique_ptr<Style
     Exchange(self, key, substyle);
 }
 
-void StyleData::LinkParent(Style* parent)
+void StyleData::LinkParent(Style* newParent)
 {
-    if (parent == GetParent())
+    if (newParent == GetParent())
         return;
     TellJournal();
-    RestoreParent(parent);
+    RestoreParent(newParent);
 }
 
 void StyleData::LinkDefaults(Style* defaults)
@@ -123,16 +137,24 @@ void StyleData::SetJournal(ReferenceHost::IStyleJournal* journal)
 
 void StyleData::Exchange(Style& self, const PropertyKey& key, std::unique_ptr<Style>& other)
 {
+    // Whole styles have four: one list that is never moved. Substyles seldom have any.
+    if (other != nullptr && substyles.capacity() == 0)
+        substyles.reserve(4);
     const auto place = FindPlace(substyles, key);
     const bool isThere = place != substyles.end() && place->key == key;
+    // What nobody inherits from gains its first substyles without anybody taking notice.
+    if (isThere || firstLink != nullptr)
+        ReferenceHost::InheritanceVersion::Change();
+    found = {};
     if (other != nullptr)
     {
         Of(*other).owner = &self;
         Of(*other).name = key;
+        Of(*other).found = {};
     }
     if (isThere)
     {
-        Of(*place->style).owner = nullptr;
+        Of(*place->style).LeaveOwner();
         place->style.swap(other);
         if (place->style == nullptr)
             substyles.erase(place);
@@ -143,10 +165,16 @@ void StyleData::Exchange(Style& self, const PropertyKey& key, std::unique_ptr<St
     }
 }
 
-void StyleData::RestoreParent(Style* parent)
+void StyleData::ExchangeValues(OwnProperties& others) noexcept
 {
-    if (parent != nullptr || relations != nullptr)
-        NeedRelations().parent.Point(parent);
+    properties.Exchange(others);
+    TellInheritors();
+}
+
+void StyleData::LeaveOwner() noexcept
+{
+    owner = nullptr;
+    found = {};
 }
 
 void StyleData::RestoreDefaults(Style* defaults)
@@ -167,6 +195,15 @@ void StyleData::TellJournal()
 {
     if (ReferenceHost::IStyleJournal* const journal = FindJournal())
         journal->BeforeChange(*this);
+}
+
+void StyleData::TellInheritors() const noexcept
+{
+    const StyleData* level = this;
+    while (level->firstLink == nullptr && level->owner != nullptr)
+        level = &Of(*level->owner);
+    if (level->firstLink != nullptr)
+        ReferenceHost::InheritanceVersion::Change();
 }
 
 StyleRelations& StyleData::NeedRelations()

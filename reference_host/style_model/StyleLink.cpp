@@ -5,11 +5,14 @@
 namespace ReferenceHost
 {
 
+constinit std::uint64_t InheritanceVersion::version = 1;
+
 void StyleLink::Point(Styles::Style* newTarget) noexcept
 {
     if (target == newTarget)
         return;
 
+    InheritanceVersion::Change();
     if (target != nullptr)
     {
         StyleLink*& place = previous != nullptr ? previous->next : Styles::StyleData::Of(*target).firstLink;
@@ -33,6 +36,8 @@ void StyleLink::Point(Styles::Style* newTarget) noexcept
 
 void StyleLink::ReleaseAll(StyleLink* first) noexcept
 {
+    if (first != nullptr)
+        InheritanceVersion::Change();
     while (first != nullptr)
     {
         StyleLink* const released = first;

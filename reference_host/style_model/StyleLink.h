@@ -2,8 +2,23 @@
 
 #include "host/style_model/Style.h"
 
+#include <cstdint>
+
 namespace ReferenceHost
 {
+
+/// Counts the changes to who inherits what, among all styles of the process: what was found where styles
+/// inherit from stays right for as long as the count stays. Always odd, so that it is no address.
+class InheritanceVersion
+{
+public:
+    [[nodiscard]] static std::uint64_t Get() noexcept { return version; }
+
+    static void Change() noexcept { version += 2; }
+
+private:
+    static constinit std::uint64_t version;
+};
 
 /// A borrowed pointer from one style to another that empties itself when the other goes.
 ///

@@ -27,24 +27,39 @@ void CollectOverridden(const Style& style, PropertyPath& path, PropertyPaths& fo
     }
 }
 
+bool IsWildcard(const PropertyKey& key)
+{
+    return key == ReferenceHost::ConstantKey(ReferenceHost::ConstantText::Wildcard);
+}
+
+/// Tells whether a style sets a property, or, where the key stands for more, anything in a substyle of that
+/// name or in itself.
+bool SetsOrHolds(const StyleData& data, const PropertyKey& key)
+{
+    if (data.FindOwn(key) != nullptr)
+        return true;
+    if (IsWildcard(key))
+        return data.HasValues();
+    const Style* substyle = data.FindSubstyle(key);
+    return substyle != nullptr && StyleData::Of(*substyle).HasValues();
+}
+
 } // namespace
 
 bool Style::DoesOverridePathProperty(const PropertyPath& path) const
 {
+    // Nearly all that is asked: one property of a style without substyles.
+    if (path.size() == 1 && data->substyles.empty() && !IsWildcard(path.front()))
+    {
+        const OwnProperties::Presence own = data->properties.Look(path.front());
+        return own == OwnProperties::Presence::Set ||
+               (own == OwnProperties::Presence::Unknown && data->properties.Search(path.front()) != nullptr);
+    }
     if (path.empty())
         return false;
 
     const Style* place = ReferenceHost::Descend(this, {path.data(), path.size() - 1});
-    if (place == nullptr)
-        return false;
-
-    const StyleData& holder = StyleData::Of(*place);
-    if (holder.FindOwn(path.back()) != nullptr)
-        return true;
-
-    const bool isWildcard = path.back() == ReferenceHost::ConstantKey(ReferenceHost::ConstantText::Wildcard);
-    const Style* whole = isWildcard ? place : holder.FindSubstyle(path.back());
-    return whole != nullptr && StyleData::Of(*whole).HasValues();
+    return place != nullptr && SetsOrHolds(StyleData::Of(*place), path.back());
 }
 
 std::set<PropertyKey> GetOverriddenProperties(const Style& style)
@@ -70,8 +85,13 @@ std::set<PropertyKey> GetStyleCategoryProperties(const Style& style)
 
 Style* GetStyleOrSubstyle(Style* style, const PropertyKey& category, bool create)
 {
-    if (style == nullptr || style->GetCategoryName() == category)
+    if (style == nullptr)
+        return nullptr;
+    const StyleData& data = StyleData::Of(*style);
+    if (data.category == category)
         return style;
+    if (Style* const known = data.FindKnownSubstyle(category))
+        return known;
     return create ? style->GetSubstyleAndCreateIfMissing(category, category)
                   : style->GetSubstyle(category, false);
 }

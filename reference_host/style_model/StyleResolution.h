@@ -12,11 +12,9 @@
 /// 1. the place under the style itself, and the parents of what stands there, nearest first;
 /// 2. the same place under each of the style's parents, nearest first, each followed by its own parents;
 /// 3. when the style is a substyle: the place that corresponds to it under each parent of its owner, nearest
-/// first, each
-///    followed by its own parents; then the same for the owner's owner, outwards;
+///    first, each followed by its own parents; then the same for the owner's owner, outwards;
 /// 4. the corresponding place under the default style that the outermost owner carries, or else the nearest
-/// of that
-///    owner's parents that carries one, followed by its own parents.
+///    of that owner's parents that carries one, followed by its own parents.
 ///
 /// A step over a style that lacks the place is passed over. Only own values of each source count, so the walk
 /// needs no memory of where it was: parent links form no cycles, and owners are never left for the owners of
@@ -85,5 +83,10 @@ bool VisitSources(const Styles::Style& style, Names below, const Visitor& visit)
     return defaults != nullptr &&
            VisitWithParents(Descend(FindCounterpart(*defaults, outermost, style), below), visit);
 }
+
+/// The effective value of a property of a style; null when nothing sets it. Along the sources of the style
+/// itself, by what each style remembers of the way.
+[[nodiscard]] const OvxUtils::Any* FindEffective(const Styles::Style& style,
+                                                 const Styles::PropertyKey& key) noexcept;
 
 } // namespace ReferenceHost

@@ -7,8 +7,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -60,6 +62,40 @@ TEST(NamedStyleSheet, ListsNamesOfACategoryInItsOrder)
     EXPECT_THAT(sheet.GetStyleNames(Styles::FillStyleCategoryName), ElementsAre(L"Dots"));
     EXPECT_THAT(sheet.GetStyleNames(Styles::OutlineStyleCategoryName), IsEmpty());
     EXPECT_THAT(sheet.GetNames(), ElementsAre(L"Zebra", L"Dots", L"Apple"));
+}
+
+TEST(NamedStyleSheet, FindsStylesInWhateverOrderTheyAreAskedFor)
+{
+    NamedStyleSheet sheet;
+    const std::vector<OvxStringT> names{L"A", L"B", L"C", L"D", L"E", L"F"};
+    std::vector<Style*> styles;
+    for (const OvxStringT& name : names)
+        styles.push_back(sheet.Add(name, MakeWhole()));
+
+    const std::vector<std::size_t> asked{0, 1, 3, 0, 5, 5, 4, 2, 3};
+    std::vector<Style*> found;
+    for (const std::size_t each : asked)
+        found.push_back(sheet.GetStyle(names[each]));
+
+    EXPECT_THAT(found, ElementsAre(styles[0], styles[1], styles[3], styles[0], styles[5], styles[5],
+                                   styles[4], styles[2], styles[3]));
+}
+
+TEST(NamedStyleSheet, FindsTheStyleThatTookThePlaceOfTheOneAskedForLast)
+{
+    NamedStyleSheet sheet;
+    sheet.Add(L"A", MakeWhole());
+    sheet.Add(L"B", MakeWhole());
+    Style* const last = sheet.Add(L"C", MakeWhole());
+    ASSERT_EQ(sheet.GetStyle(L"C"), last);
+
+    sheet.TakeOut(L"A");
+    sheet.TakeOut(L"B");
+    Style* const added = sheet.InsertAt(0, L"B", MakeWhole());
+
+    EXPECT_EQ(sheet.GetStyle(L"C"), last);
+    EXPECT_EQ(sheet.GetStyle(L"B"), added);
+    EXPECT_EQ(sheet.GetStyle(L"A"), nullptr);
 }
 
 TEST(NamedStyleSheet, TakesNoStyleUnderANameThatIsTakenOrEmpty)
