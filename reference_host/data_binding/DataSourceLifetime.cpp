@@ -29,14 +29,9 @@ constinit thread_local int notificationDepth = 0;
 
 } // namespace
 
-NotificationScope::NotificationScope() noexcept
+NotificationScope::NotificationScope() noexcept : depth(notificationDepth)
 {
-    ++notificationDepth;
-}
-
-NotificationScope::~NotificationScope()
-{
-    --notificationDepth;
+    ++depth;
 }
 
 void DataSourceLifetime::OnMade()

@@ -13,6 +13,24 @@ struct IBroadcaster::Listeners
     ReferenceHost::ListenerTable<OvxStringT> table;
 };
 
+namespace
+{
+
+void NotifyOfEach(std::wstring_view joined, ReferenceHost::ListenerTable<OvxStringT>& table)
+{
+    ReferenceHost::FirstFailure failure;
+    while (!joined.empty())
+    {
+        const std::wstring_view name = joined.substr(0, joined.find(L','));
+        joined.remove_prefix(std::min(joined.size(), name.size() + 1));
+        if (!name.empty())
+            failure.Run([&] { table.NotifyOfName(name); });
+    }
+    failure.Rethrow();
+}
+
+} // namespace
+
 IBroadcaster::IBroadcaster() : listeners(std::make_shared<Listeners>())
 {
 }
@@ -25,21 +43,19 @@ IBroadcaster::~IBroadcaster()
 void IBroadcaster::UpdateListeners(OvxStringViewT names)
 {
     ReferenceHost::UiThread::Check();
+    if (names.empty())
+        return;
+    if (names.find(L',') == std::wstring_view::npos)
+    {
+        listeners->table.NotifyOfName(names);
+        return;
+    }
 
     // A listener may destroy this object and whatever holds the names: the copies outlive it, and the table
     // that is kept here is empty then.
     const std::shared_ptr<Listeners> kept = listeners;
     const OvxStringT joined(names);
-    ReferenceHost::FirstFailure failure;
-    std::wstring_view rest = joined.Wide();
-    while (!rest.empty())
-    {
-        const std::wstring_view name = rest.substr(0, rest.find(L','));
-        rest.remove_prefix(std::min(rest.size(), name.size() + 1));
-        if (!name.empty())
-            failure.Run([&] { kept->table.Notify(name, OvxStringT(name)); });
-    }
-    failure.Rethrow();
+    NotifyOfEach(joined.Wide(), kept->table);
 }
 
 ListenerToken IBroadcaster::AddListener(OvxStringViewT name,

@@ -47,7 +47,7 @@ public:
     operator OvxStringViewT() const noexcept { return view; }
 
 private:
-    std::array<wchar_t, 64> nearby{};
+    std::array<wchar_t, 64> nearby; // Only what is read of it is written.
     std::wstring faraway;
     std::wstring_view view;
 };

@@ -1,5 +1,7 @@
 #include "host/data_binding/IBroadcaster.h"
 
+#include "tests/reference_host/data_binding/CountedAllocations.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -142,6 +144,60 @@ TEST_F(Listeners, ThatAreAddedMeanwhileAreCalledTheNextTime)
     EXPECT_THAT(heard, ElementsAre(L"new:Title"));
 }
 
+TEST_F(Listeners, ThatAreAddedMeanwhileHearANotificationFromInsideTheCall)
+{
+    bool isFirst = true;
+    broadcaster->AddListener(L"Title",
+                             [&](const OvxStringT&)
+                             {
+                                 if (!std::exchange(isFirst, false))
+                                     return;
+                                 broadcaster->AddListener(L"Title", Record(L"new"));
+                                 broadcaster->UpdateListeners(L"Title");
+                                 heard.push_back(L"inner done");
+                             });
+
+    broadcaster->UpdateListeners(L"Title");
+
+    EXPECT_THAT(heard, ElementsAre(L"new:Title", L"inner done"));
+}
+
+TEST_F(Listeners, ThatAllEndInsideTheCallMayBeFollowedByNewOnes)
+{
+    ListenerToken token;
+    token = broadcaster->AddListener(L"Title",
+                                     [&](const OvxStringT&)
+                                     {
+                                         broadcaster->RemoveListener(token);
+                                         broadcaster->AddListener(L"Title", Record(L"new"));
+                                     });
+
+    broadcaster->UpdateListeners(L"Title");
+    broadcaster->UpdateListeners(L"Title");
+
+    EXPECT_THAT(heard, ElementsAre(L"new:Title"));
+}
+
+TEST_F(Listeners, ThatEndInsideTheCallMayEndOthersWithWhatTheyHold)
+{
+    const ListenerToken other = broadcaster->AddListener(L"Title", Record(L"other"));
+    std::shared_ptr<int> last(new int(1),
+                              [&](const int* number)
+                              {
+                                  delete number;
+                                  broadcaster->RemoveListener(other);
+                              });
+    ListenerToken token;
+    token = broadcaster->AddListener(L"Title",
+                                     [&, last](const OvxStringT&) { broadcaster->RemoveListener(token); });
+    last.reset();
+
+    broadcaster->UpdateListeners(L"Title");
+    broadcaster->UpdateListeners(L"Title");
+
+    EXPECT_THAT(heard, ElementsAre(L"other:Title"));
+}
+
 TEST_F(Listeners, MayDestroyTheBroadcasterAndNothingIsDeliveredAfterIt)
 {
     broadcaster->AddListener(L"Title", [&](const OvxStringT&) { broadcaster.reset(); });
@@ -206,4 +262,30 @@ TEST_F(Listeners, LetGoOfWhatTheyHoldWhenTheyAreRemoved)
     broadcaster->RemoveListener(token);
 
     EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(Listeners, LetGoOfWhatTheyHoldWhenTheCallInWhichTheyEndIsOver)
+{
+    auto held = std::make_shared<int>(1);
+    ListenerToken token;
+    token = broadcaster->AddListener(L"Title",
+                                     [&, held](const OvxStringT&) { broadcaster->RemoveListener(token); });
+
+    broadcaster->UpdateListeners(L"Title");
+
+    EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_F(Listeners, AreCalledWithoutAnyAllocation)
+{
+    std::size_t calls = 0;
+    for (int listener = 0; listener < 20; ++listener)
+        broadcaster->AddListener(L"a name of many letters", [&calls](const OvxStringT&) { ++calls; });
+
+    const std::size_t before = CountAllocations();
+    broadcaster->UpdateListeners(L"a name of many letters");
+    const std::size_t after = CountAllocations();
+
+    EXPECT_EQ(calls, 20U);
+    EXPECT_EQ(after, before);
 }
