@@ -25,7 +25,11 @@ bool IsPartOfAny(const StyleData& style, std::span<Style* const> wholes)
 
 void StepChanges::KeepStyle(StyleData& style)
 {
-    images.try_emplace(&style, style);
+    if (index.Find(images, style) != images.size())
+        return;
+    index.MakeRoom(images, 1);
+    images.emplace_back(style);
+    index.AddLast(images);
 }
 
 void StepChanges::KeepFreePlace(Style& owner, const Styles::PropertyKey& key)
@@ -62,8 +66,23 @@ void StepChanges::Perform(std::unique_ptr<IDocumentChange> change)
 
 void StepChanges::TakeOver(StepChanges& part)
 {
+    if (images.empty() && places.empty() && changes.empty())
+    {
+        images.swap(part.images);
+        std::swap(index, part.index);
+        places.swap(part.places);
+        changes.swap(part.changes);
+        return;
+    }
     changes.reserve(changes.size() + part.changes.size());
-    images.merge(part.images);
+    index.MakeRoom(images, part.images.size());
+    for (StyleImage& image : part.images)
+    {
+        if (index.Find(images, image.GetStyle()) != images.size())
+            continue;
+        images.push_back(std::move(image));
+        index.AddLast(images);
+    }
     places.merge(part.places);
     for (const auto& [place, known] : part.places)
     {
@@ -76,15 +95,17 @@ void StepChanges::TakeOver(StepChanges& part)
 bool StepChanges::ConcernsOnly(std::span<Style* const> wholes) const
 {
     return changes.empty() &&
-           std::ranges::all_of(images,
-                               [wholes](const auto& image) { return IsPartOfAny(*image.first, wholes); }) &&
+           std::ranges::all_of(images, [wholes](const StyleImage& image)
+                               { return IsPartOfAny(image.GetStyle(), wholes); }) &&
            std::ranges::all_of(places, [wholes](const auto& place)
                                { return IsPartOfAny(*place.first.first, wholes); });
 }
 
 bool StepChanges::DropUnchanged()
 {
-    std::erase_if(images, [](const auto& image) { return !image.second.DiffersFromNow(); });
+    std::erase_if(images, [](const StyleImage& image) { return !image.DiffersFromNow(); });
+    images.shrink_to_fit();
+    index = ImageIndex();
     const bool isAnyLeft =
         !images.empty() || !changes.empty() ||
         std::ranges::any_of(places, [](const auto& place) { return place.second.DiffersFromNow(); });
@@ -116,7 +137,7 @@ void StepChanges::Redo()
 
 void StepChanges::ExchangeAll()
 {
-    for (auto& [style, image] : images)
+    for (StyleImage& image : images)
         image.Exchange();
     for (auto& [place, standing] : places)
         standing.Exchange();
@@ -127,7 +148,7 @@ void StepChanges::Forget(const Style& destroyed)
     const StyleData& data = StyleData::Of(destroyed);
     for (const Styles::OwnSubstyle& substyle : data.substyles)
         Forget(*substyle.style);
-    images.erase(&data);
+    index.Erase(images, data);
     auto place = places.lower_bound({&data, Styles::PropertyKey()});
     while (place != places.end() && place->first.first == &data)
     {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "reference_host/history/IDocumentChange.h"
+#include "reference_host/history/ImageIndex.h"
 #include "reference_host/history/StyleImage.h"
 #include "reference_host/history/SubstylePlace.h"
 
@@ -9,7 +10,6 @@
 #include <map>
 #include <memory>
 #include <span>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -24,7 +24,7 @@ namespace ReferenceHost
 class StepChanges
 {
 public:
-    using Images = std::unordered_map<const Styles::StyleData*, StyleImage>;
+    using Images = std::vector<StyleImage>;
 
     StepChanges() = default;
     StepChanges(const StepChanges&) = delete;
@@ -50,6 +50,7 @@ public:
 
     // Reading
 
+    /// One for each style, in the order in which they changed first.
     [[nodiscard]] const Images& GetImages() const noexcept { return images; }
 
     /// Tells whether nothing but these whole styles, their substyles included, changed.
@@ -76,6 +77,7 @@ private:
     void Forget(const Styles::Style& destroyed);
 
     Images images;
+    ImageIndex index; ///< Of the images, while there may be more.
     std::map<Place, SubstylePlace> places;
     std::vector<std::unique_ptr<IDocumentChange>> changes; ///< In order.
 };

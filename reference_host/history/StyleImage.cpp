@@ -9,6 +9,19 @@ namespace ReferenceHost
 using Styles::OwnProperty;
 using Styles::StyleData;
 
+namespace
+{
+
+void TakeOver(StyleLink& link, StyleLink& other) noexcept
+{
+    if (link.Get() == nullptr && other.Get() == nullptr)
+        return;
+    link.Point(other.Get());
+    other.Point(nullptr);
+}
+
+} // namespace
+
 StyleImage::StyleImage(StyleData& imagedStyle)
     : style(&imagedStyle), category(imagedStyle.category), values(imagedStyle.properties)
 {
@@ -16,10 +29,26 @@ StyleImage::StyleImage(StyleData& imagedStyle)
     defaults.Point(imagedStyle.GetDefaults());
 }
 
+StyleImage::StyleImage(StyleImage&& other) noexcept
+    : style(other.style), category(other.category), values(std::move(other.values))
+{
+    TakeOver(parent, other.parent);
+    TakeOver(defaults, other.defaults);
+}
+
+StyleImage& StyleImage::operator=(StyleImage&& other) noexcept
+{
+    style = other.style;
+    category = other.category;
+    values = std::move(other.values);
+    TakeOver(parent, other.parent);
+    TakeOver(defaults, other.defaults);
+    return *this;
+}
+
 const OvxUtils::Any* StyleImage::Find(const Styles::PropertyKey& key) const noexcept
 {
-    const auto found = std::ranges::lower_bound(values, key, {}, &OwnProperty::key);
-    return found != values.end() && found->key == key ? &found->value : nullptr;
+    return values.Find(key);
 }
 
 bool StyleImage::DiffersFromNow() const
@@ -34,7 +63,7 @@ bool StyleImage::DiffersFromNow() const
 void StyleImage::Exchange()
 {
     std::swap(style->category, category);
-    style->properties.swap(values);
+    style->ExchangeValues(values);
 
     Styles::Style* const parentNow = style->GetParent();
     style->RestoreParent(parent.Get());

@@ -3,8 +3,6 @@
 #include "reference_host/style_model/StyleData.h"
 #include "reference_host/style_model/StyleLink.h"
 
-#include <vector>
-
 namespace ReferenceHost
 {
 
@@ -15,13 +13,13 @@ public:
     /// Takes the image. `imagedStyle` is borrowed, and lives whenever the image is used.
     explicit StyleImage(Styles::StyleData& imagedStyle);
 
-    StyleImage(const StyleImage&) = delete;
-    StyleImage& operator=(const StyleImage&) = delete;
+    StyleImage(StyleImage&& other) noexcept;
+    StyleImage& operator=(StyleImage&& other) noexcept;
+    ~StyleImage() = default;
 
     [[nodiscard]] Styles::StyleData& GetStyle() const noexcept { return *style; }
 
-    /// Ordered by key.
-    [[nodiscard]] const std::vector<Styles::OwnProperty>& GetValues() const noexcept { return values; }
+    [[nodiscard]] const Styles::OwnProperties& GetValues() const noexcept { return values; }
 
     /// The value of a property; null when the style did not set it.
     [[nodiscard]] const OvxUtils::Any* Find(const Styles::PropertyKey& key) const noexcept;
@@ -37,7 +35,7 @@ public:
 private:
     Styles::StyleData* style;
     Styles::PropertyKey category;
-    std::vector<Styles::OwnProperty> values;
+    Styles::OwnProperties values;
     StyleLink parent;
     StyleLink defaults;
 };

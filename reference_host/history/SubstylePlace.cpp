@@ -16,7 +16,7 @@ SubstylePlace::SubstylePlace(Styles::Style& itsOwner, const Styles::PropertyKey&
 {
     // What is kept is no part of the document: what is written to it meanwhile is nobody's change.
     if (kept != nullptr)
-        StyleData::Of(*kept).owner = nullptr;
+        StyleData::Of(*kept).LeaveOwner();
 }
 
 bool SubstylePlace::DiffersFromNow() const
