@@ -24,7 +24,8 @@ std::size_t HashOf(OwnValues::Scope scope, const Styles::Style* parent,
     std::size_t hash = std::hash<const void*>()(parent) + static_cast<std::size_t>(scope);
     for (const StyleRecord* const level : levels)
         hash = (hash ^ (hash >> 29U)) * kFactor + std::hash<const void*>()(level);
-    return hash * kFactor;
+    hash *= kFactor;
+    return hash ^ (hash >> 32U);
 }
 
 /// Tells whether a predicate holds for any value that the levels give.
@@ -33,6 +34,11 @@ bool AnyValue(const std::vector<const StyleRecord*>& levels, const Predicate& ma
 {
     return std::ranges::any_of(levels, [&matches](const StyleRecord* level)
                                { return std::ranges::any_of(level->values, matches); });
+}
+
+bool IsRelative(const StyleValue& value)
+{
+    return value.value.IsEmpty();
 }
 
 /// Clears the parents of substyles that do not concern text.
@@ -58,24 +64,46 @@ CascadeStyles::CascadeStyles(const PropertyMappings& properties, Styles::Style& 
 std::size_t CascadeStyles::Intern(OwnValues::Scope scope, Styles::Style* parent,
                                   std::span<const StyleRecord* const> levels)
 {
+    if (2 * (cascades.size() + 1) > slots.size())
+        GrowSlots();
     const std::size_t hash = HashOf(scope, parent, levels);
-    const auto [first, last] = numbersByHash.equal_range(hash);
-    const auto same = std::find_if(first, last,
-                                   [&](const auto& entry)
-                                   {
-                                       const Cascade& cascade = cascades[entry.second];
-                                       return cascade.scope == scope && cascade.parent == parent &&
-                                              std::ranges::equal(cascade.levels, levels);
-                                   });
-    if (same != last)
+    const auto isSame = [&](const Cascade& cascade) {
+        return cascade.scope == scope && cascade.parent == parent &&
+               std::ranges::equal(cascade.levels, levels);
+    };
+    std::uint32_t& slot = slots[FindSlot(hash, isSame)];
+    if (slot != 0)
     {
-        ++cascades[same->second].uses;
-        return same->second;
+        ++cascades[slot - 1].uses;
+        return slot - 1;
     }
-    const std::size_t number = cascades.size();
-    cascades.push_back({scope, parent, {levels.begin(), levels.end()}, 1, nullptr});
-    numbersByHash.emplace(hash, number);
-    return number;
+    cascades.push_back({scope, parent, {levels.begin(), levels.end()}, hash, 1, nullptr});
+    slot = static_cast<std::uint32_t>(cascades.size());
+    return cascades.size() - 1;
+}
+
+template <class Predicate>
+std::size_t CascadeStyles::FindSlot(std::size_t hash, const Predicate& isSame) const
+{
+    const std::size_t mask = slots.size() - 1;
+    std::size_t place = hash & mask;
+    while (slots[place] != 0)
+    {
+        const Cascade& cascade = cascades[slots[place] - 1];
+        if (cascade.hash == hash && isSame(cascade))
+            break;
+        place = (place + 1) & mask;
+    }
+    return place;
+}
+
+void CascadeStyles::GrowSlots()
+{
+    constexpr std::size_t kFirst = 64; // Powers of two, so that a hash is cut to a place by a mask.
+    slots.assign(slots.empty() ? kFirst : 2 * slots.size(), 0);
+    const auto isSame = [](const Cascade& /*cascade*/) { return false; };
+    for (std::size_t number = 0; number < cascades.size(); ++number)
+        slots[FindSlot(cascades[number].hash, isSame)] = static_cast<std::uint32_t>(number + 1);
 }
 
 std::unique_ptr<Styles::Style> CascadeStyles::Make(std::size_t number)
@@ -98,7 +126,7 @@ std::unique_ptr<Styles::Style> CascadeStyles::MakeFor(const StyleUser& user, std
 {
     std::unique_ptr<Styles::Style> style = Make(number);
     users.insert_or_assign(&Styles::StyleData::Of(*style), user);
-    ReferenceHost::SetJournal(*style, journal);
+    ReferenceHost::SetJournal(*style, journal.GetIfUsed());
     return style;
 }
 
@@ -121,9 +149,7 @@ void CascadeStyles::FixRelativeValues()
 {
     for (Cascade& cascade : cascades)
     {
-        const bool isRelative =
-            AnyValue(cascade.levels, [](const StyleValue& value) { return value.value.IsEmpty(); });
-        if (isRelative && cascade.prototype == nullptr)
+        if (cascade.prototype == nullptr && AnyValue(cascade.levels, IsRelative))
             cascade.prototype = Build(cascade);
     }
 }
@@ -133,8 +159,19 @@ std::vector<bool> CascadeStyles::FindRelative(const std::set<std::size_t>& rows)
     std::vector<bool> found(cascades.size());
     for (std::size_t number = 0; number < cascades.size(); ++number)
         found[number] = AnyValue(cascades[number].levels, [&rows](const StyleValue& value)
-                                 { return value.value.IsEmpty() && rows.contains(value.row); });
+                                 { return IsRelative(value) && rows.contains(value.row); });
     return found;
+}
+
+bool CascadeStyles::HasRelativeValues(std::size_t number) const
+{
+    return AnyValue(cascades[number].levels, IsRelative);
+}
+
+bool CascadeStyles::HasSubstyleParents(std::size_t number) const
+{
+    return std::ranges::any_of(cascades[number].levels,
+                               [](const StyleRecord* level) { return !level->substyleParents.empty(); });
 }
 
 bool CascadeStyles::RefersToPalette(std::size_t number, const OvxStringT& entry) const

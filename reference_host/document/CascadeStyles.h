@@ -3,6 +3,7 @@
 #include "reference_host/document/OwnValues.h"
 #include "reference_host/document/PropertyMappings.h"
 #include "reference_host/document/StyleRecord.h"
+#include "reference_host/document/UserJournal.h"
 
 #include "host/style_model/Style.h"
 #include "host/utils/OvxStringT.h"
@@ -19,7 +20,6 @@ namespace ReferenceHost
 {
 
 class DrawingObject;
-class IStyleJournal;
 class TextUnit;
 
 /// Whose a whole style is. Borrowed from the drawing.
@@ -59,7 +59,7 @@ public:
     [[nodiscard]] std::unique_ptr<Styles::Style> MakeFor(const StyleUser& user, std::size_t number);
 
     /// The journal of styles that are made for somebody from now on; borrowed, null for none.
-    void SetJournal(IStyleJournal* newJournal) noexcept { journal = newJournal; }
+    void SetJournal(IStyleJournal* newJournal) noexcept { journal.SetNext(newJournal); }
 
     /// Whose a whole style is; no object for one that was not made for anybody.
     [[nodiscard]] StyleUser FindUser(const Styles::StyleData& wholeStyle) const;
@@ -75,6 +75,13 @@ public:
     /// one of these rows.
     [[nodiscard]] std::vector<bool> FindRelative(const std::set<std::size_t>& rows) const;
 
+    /// Tells whether a cascade has a value that is given as a part of an inherited one.
+    [[nodiscard]] bool HasRelativeValues(std::size_t number) const;
+
+    /// Tells whether a style of the file that belongs to a cascade has substyles that inherit from named
+    /// ones.
+    [[nodiscard]] bool HasSubstyleParents(std::size_t number) const;
+
     /// Tells whether a style of the file that belongs to a cascade gives a colour by this palette entry.
     [[nodiscard]] bool RefersToPalette(std::size_t number, const OvxStringT& entry) const;
 
@@ -84,17 +91,26 @@ private:
         OwnValues::Scope scope;
         Styles::Style* parent;
         std::vector<const StyleRecord*> levels;
+        std::size_t hash;                         ///< Of all before.
         std::size_t uses = 0;                     ///< How often it was asked for by Intern().
         std::unique_ptr<Styles::Style> prototype; ///< What further uses are copied from; null until needed.
     };
 
     [[nodiscard]] std::unique_ptr<Styles::Style> Build(const Cascade& cascade) const;
 
+    /// The slot that holds the number of a cascade for which `isSame` holds, or the free one where it
+    /// belongs.
+    template <class Predicate>
+    [[nodiscard]] std::size_t FindSlot(std::size_t hash, const Predicate& isSame) const;
+
+    void GrowSlots();
+
     const PropertyMappings& table;
     Styles::Style& defaults;
     std::vector<Cascade> cascades;
-    std::unordered_multimap<std::size_t, std::size_t> numbersByHash;
-    IStyleJournal* journal = nullptr;
+    std::vector<std::uint32_t>
+        slots; ///< By hashes: one more than the number of a cascade, or 0. Half are free.
+    UserJournal journal{*this};
     std::unordered_map<const Styles::StyleData*, StyleUser> users;
 };
 

@@ -58,12 +58,10 @@ public:
     /// Reads a flat or zipped drawing or drawing template; which it is, its content tells and not its name.
     ///
     /// @param warnings   receives one line in UTF-8 for everything that was repaired or passed over: a
-    /// missing parent
-    ///                   that was dropped, a cycle of parents that was cut, a value that cannot be read and
-    ///                   counts as not set. Each names the style.
+    ///                   missing parent that was dropped, a cycle of parents that was cut, a value that
+    ///                   cannot be read and counts as not set. Each names the style.
     /// @param extensions properties of further categories; each of these categories becomes a substyle of
-    /// every whole
-    ///                   style of the drawing.
+    ///                   every whole style of the drawing.
     /// @param progress   is told how far it is, and may stop it.
     /// @throws DocumentError for everything that cannot be read; nothing is left behind.
     /// @throws OperationCancelled
@@ -200,13 +198,11 @@ public:
     ///
     /// @returns the files of style sheets that were written.
     /// @throws OverwriteRefusal for a file that somebody else has changed since it was read or last saved,
-    /// that
-    ///         has further names (hard links), that is protected against writing, or whose owner cannot be
-    ///         kept. Nothing is written then unless the options force it.
+    ///         that has further names (hard links), that is protected against writing, or whose owner cannot
+    ///         be kept. Nothing is written then unless the options force it.
     /// @throws DocumentError also when `target` is a style sheet of the drawing, or a changed one is no
-    /// longer
-    ///         the file that was read; no file is another than before then. Only where a file cannot take its
-    ///         place do those stay that had taken theirs.
+    ///         longer the file that was read; no file is another than before then. Only where a file cannot
+    ///         take its place do those stay that had taken theirs.
     /// @throws OperationCancelled with all files as they were, when the listener in `options` says so.
     std::vector<std::filesystem::path> Save(const std::filesystem::path& target, const SaveOptions& options,
                                             std::vector<std::string>& warnings) const;

@@ -26,8 +26,7 @@ struct DrawingFile
 /// Reads a drawing and unpacks what is needed of it; its content tells which form it has.
 ///
 /// @throws DocumentError when the file is missing, not a file, unreadable, empty, beyond a limit, protected,
-/// or not
-///         a drawing. XML is not looked at yet.
+///         or not a drawing. XML is not looked at yet.
 [[nodiscard]] DrawingFile ReadDrawingFile(const std::filesystem::path& path,
                                           const ProgressSpan& progress = {});
 

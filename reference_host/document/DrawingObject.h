@@ -15,6 +15,7 @@ namespace ReferenceHost
 struct DrawingPage;
 class CascadeStyles;
 class ShapeReader;
+class UserJournal;
 
 /// A shape or a group of a drawing.
 ///
@@ -43,6 +44,10 @@ public:
     [[nodiscard]] OvxStringViewT GetKind() const noexcept { return kind; }
 
     [[nodiscard]] bool IsGroup() const noexcept { return isGroup; }
+
+    /// Tells whether a change of its style, or of a style of its text, was ever told, also one that was
+    /// undone since. One that was not is as the file says, apart from what it inherits.
+    [[nodiscard]] bool WasChanged() const noexcept { return wasChanged; }
 
     [[nodiscard]] DrawingPage& GetPage() const noexcept { return *page; }
 
@@ -84,6 +89,7 @@ public:
 
 private:
     friend class ShapeReader;
+    friend class UserJournal;
 
     DrawingPage* page;
     DrawingObject* group;
@@ -91,6 +97,7 @@ private:
     OvxStringT name;
     OvxStringViewT kind;
     bool isGroup = false;
+    bool wasChanged = false;
     std::size_t place = 0;
     std::vector<DrawingObject*> members; ///< Owned by the drawing.
     std::vector<TextUnit> paragraphs;

@@ -42,7 +42,8 @@ struct Entry
         : name(entryName),
           isNew(text.empty()),
           made(isNew ? EmptyDocument(root) : std::string()),
-          part(isNew ? std::string_view(made) : text, file + ", " + std::string(entryName), progress)
+          part(isNew ? std::string_view(made) : text, file + ", " + std::string(entryName),
+               XmlTrust::WasChecked, progress)
     {
     }
 
@@ -57,7 +58,7 @@ std::optional<std::string> ExtendManifest(const std::string& manifest, const std
                                           const std::vector<std::string>& added, Warnings& warnings)
 try
 {
-    SavedPart part(manifest, label);
+    SavedPart part(manifest, label, XmlTrust::ToBeChecked);
     const pugi::xml_node root = part.GetSource().GetRoot();
     for (const std::string& name : added)
     {
@@ -97,7 +98,7 @@ std::string DrawingWriter::Write(const ProgressSpan& whole)
 
 std::string DrawingWriter::WriteFlat()
 {
-    SavedPart part(data.file.bytes, data.file.label, progress.Part(0, kLoaded));
+    SavedPart part(data.file.bytes, data.file.label, XmlTrust::WasChecked, progress.Part(0, kLoaded));
     EditAll(part, part, part);
     return part.GetEdits().Apply(progress.Part(ProgressPhase::Composing, kCompared, 1));
 }

@@ -72,12 +72,16 @@ auto Attempt(const ReplacedFile& file, const Work& work)
 
 StagedFile Stage(const ReplacedFile& file, std::string_view bytes, bool isForced, ProgressSpan& progress)
 {
-    if (!isForced)
-        DemandReplaceable(file, file.path);
-    progress.Start(bytes.size());
     const auto tell = [&progress](std::size_t written) { progress.Reach(written); };
     const Ownership ownership = isForced ? Ownership::MayChange : Ownership::Keep;
-    return Attempt(file, [&] { return StagedFile(file.path, bytes, ownership, tell); });
+    return Attempt(file,
+                   [&]
+                   {
+                       if (!isForced)
+                           DemandReplaceable(file, file.path);
+                       progress.Start(bytes.size());
+                       return StagedFile(file.path, bytes, ownership, tell);
+                   });
 }
 
 } // namespace

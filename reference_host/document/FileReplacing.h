@@ -29,8 +29,7 @@ public:
     /// Writes the new bytes beside the file.
     ///
     /// @throws OverwriteRefusal when the file has further names, is protected, belongs to somebody else, or
-    /// is
-    ///         no longer what is known of it. One that is gone may be written anew.
+    ///         is no longer what is known of it. One that is gone may be written anew.
     /// @throws DocumentError when the bytes cannot be written; OperationCancelled.
     FileReplacing(ReplacedFile replaced, std::string_view bytes, const SaveOptions& options,
                   ProgressSpan progress);

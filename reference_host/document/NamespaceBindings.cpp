@@ -59,4 +59,9 @@ const std::string_view* NamespaceBindings::Find(std::string_view prefix)
     return nullptr;
 }
 
+bool NamespaceBindings::IsInForce(std::string_view uri) const
+{
+    return std::ranges::find(bindings, uri, &Binding::uri) != bindings.end();
+}
+
 } // namespace ReferenceHost

@@ -31,6 +31,9 @@ public:
     /// The namespace that `prefix` stands for; null when it is not declared. Valid until the next change.
     [[nodiscard]] const std::string_view* Find(std::string_view prefix);
 
+    /// Tells whether any prefix was declared for a namespace here, also where another declaration hides it.
+    [[nodiscard]] bool IsInForce(std::string_view uri) const;
+
     /// Tells whether two prefixes have ever stood for one namespace. Only then can attributes of different
     /// spelling be the same.
     [[nodiscard]] bool HasAliases() const noexcept { return hasAliases; }

@@ -16,6 +16,7 @@ OwnValues::OwnValues(const PropertyMappings& properties, Scope wanted)
 
 void OwnValues::Add(const StyleRecord& record)
 {
+    gathered.reserve(gathered.size() + record.values.size());
     for (const StyleValue& value : record.values)
     {
         if (scope == Scope::Text && table.GetRows()[value.row].element == PropertyElement::Graphic)
@@ -50,21 +51,32 @@ void OwnValues::Complete(Gathered& open, const OvxUtils::Any& value)
         open.value = OvxUtils::Any(*part);
 }
 
+void OwnValues::CompleteFrom(const Styles::Style& style, const Styles::PropertyKey& key, Gathered& open)
+{
+    const OvxUtils::Any& inherited = style.GetProperty(key);
+    if (!inherited.IsEmpty())
+        Complete(open, inherited);
+}
+
 std::vector<std::size_t> OwnValues::WriteTo(Styles::Style& style) const
 {
     std::vector<std::size_t> missing;
-    for (Gathered each : gathered)
+    for (const Gathered& each : gathered)
     {
         const PropertyMapping& row = table.GetRows()[each.row];
         Styles::Style* const target = Styles::GetStyleOrSubstyle(&style, row.category, false);
         if (target == nullptr)
             continue;
-        const OvxUtils::Any& inherited = target->GetProperty(row.key);
-        if (each.value.IsEmpty() && !inherited.IsEmpty())
-            Complete(each, inherited);
         if (!each.value.IsEmpty())
+        {
             target->SetProperty(row.key, each.value);
-        else if (each.fraction != 0)
+            continue;
+        }
+        Gathered open = each;
+        CompleteFrom(*target, row.key, open);
+        if (!open.value.IsEmpty())
+            target->SetProperty(row.key, open.value);
+        else if (open.fraction != 0)
             missing.push_back(each.row);
     }
     return missing;

@@ -46,6 +46,7 @@ private:
     };
 
     static void Complete(Gathered& open, const OvxUtils::Any& value);
+    static void CompleteFrom(const Styles::Style& style, const Styles::PropertyKey& key, Gathered& open);
 
     const PropertyMappings& table;
     Scope scope;

@@ -100,15 +100,13 @@ Parsed ParseLineSpacing(const Source& source)
 Parsed ParseChoice(const Source& source)
 {
     const auto& choices = source.mapping.choices;
-    const auto key = [](std::string_view text)
-    {
-        return ParsedValue{
-            Any(Styles::PropertyKey(Styles::PooledString<Styles::StringPool>(OvxUtils::FromUtf8(text))))};
-    };
     if (choices.empty() && !source.text.empty())
-        return key(source.text);
+        return ParsedValue{Any(KeyOfChoice(source.text))};
     const auto choice = std::ranges::find(choices, source.text, &PropertyChoice::text);
-    return choice == choices.end() ? std::nullopt : Parsed(key(choice->meaning));
+    if (choice == choices.end())
+        return std::nullopt;
+    const bool isKnown = choice->key != Styles::PropertyKey::Empty;
+    return ParsedValue{Any(isKnown ? choice->key : KeyOfChoice(choice->meaning))};
 }
 
 Parsed ParseText(const Source& source)
@@ -158,7 +156,24 @@ constexpr std::array<Codec, 13> kCodecs{
      {PropertyCodec::FontName, "font-name", ParseFontName},
      {PropertyCodec::FontFamily, "font-family", ParseFontFamilyValue}}};
 
+constexpr bool AreInOrder()
+{
+    for (std::size_t place = 0; place < kCodecs.size(); ++place)
+    {
+        if (static_cast<std::size_t>(kCodecs[place].codec) != place)
+            return false;
+    }
+    return true;
+}
+
+static_assert(AreInOrder(), "a codec is found by its number");
+
 } // namespace
+
+Styles::PropertyKey KeyOfChoice(std::string_view meaning)
+{
+    return Styles::PooledString<Styles::StringPool>(OvxUtils::FromUtf8(meaning));
+}
 
 std::optional<PropertyCodec> FindPropertyCodec(std::string_view name)
 {
@@ -175,8 +190,8 @@ std::string DefinitionKey(std::string_view kind, std::string_view name)
 std::optional<ParsedValue> ParseProperty(const PropertyMapping& mapping, std::string_view text,
                                          const DeclaredNames& names)
 {
-    const auto* const codec = std::ranges::find(kCodecs, mapping.codec, &Codec::codec);
-    return codec->parse({mapping, PickShorthandSide(TrimXmlBlanks(text), mapping.side), names});
+    const Codec& codec = kCodecs[static_cast<std::size_t>(mapping.codec)];
+    return codec.parse({mapping, PickShorthandSide(TrimXmlBlanks(text), mapping.side), names});
 }
 
 std::string_view PickShorthandSide(std::string_view text, ShorthandSide side)

@@ -36,6 +36,9 @@ struct ParsedValue
     double percentOfInherited = 0;
 };
 
+/// What a choice that means `meaning` is in memory.
+[[nodiscard]] Styles::PropertyKey KeyOfChoice(std::string_view meaning);
+
 /// Reads the text of an attribute, blanks at both ends aside; none when it means nothing there.
 [[nodiscard]] std::optional<ParsedValue> ParseProperty(const PropertyMapping& mapping, std::string_view text,
                                                        const DeclaredNames& names);

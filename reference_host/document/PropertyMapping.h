@@ -53,6 +53,7 @@ struct PropertyChoice
 {
     std::string text;    ///< As it may stand in the file.
     std::string meaning; ///< The text of the PropertyKey; several texts may mean the same ("700" and "bold").
+    Styles::PropertyKey key = {}; ///< That key, where somebody has looked it up already; else the empty one.
 };
 
 /// Which value of a shorthand attribute such as fo:margin a property takes: one value stands for all four,

@@ -1,6 +1,7 @@
 #include "reference_host/document/PropertyMappings.h"
 
 #include "reference_host/document/OdfNamespaces.h"
+#include "reference_host/document/PropertyCodecs.h"
 
 #include "host/style_model/CategoryNames.h"
 #include "host/utils/Utf8.h"
@@ -238,6 +239,8 @@ PropertyMappings::PropertyMappings(const std::vector<PropertyMapping>& extension
         if (std::ranges::find(categories, rows[place].category) == categories.end())
             categories.push_back(rows[place].category);
         rowsByAttribute[rows[place].attribute].push_back(place);
+        for (PropertyChoice& choice : rows[place].choices)
+            choice.key = KeyOfChoice(choice.meaning);
         firstRows.push_back(
             static_cast<std::size_t>(FindRow(rows[place].category, rows[place].key) - rows.data()));
     }

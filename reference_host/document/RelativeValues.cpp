@@ -15,19 +15,27 @@ RelativeValues::RelativeValues(const PropertyMappings& properties, CascadeStyles
 void RelativeValues::Fix()
 {
     cascades.FixRelativeValues();
+    std::set<std::size_t> allRows;
+    for (std::size_t place = 0; place < table.GetRows().size(); ++place)
+        allRows.insert(allRows.end(), place);
+    hasAny = std::ranges::count(cascades.FindRelative(allRows), true) > 0;
 }
 
 void RelativeValues::MakeConcerned(const StepChanges& changes)
 {
+    if (!hasAny)
+        return;
     std::set<std::size_t> rows;
-    for (const auto& [style, image] : changes.GetImages())
+    for (const StyleImage& image : changes.GetImages())
     {
-        const Styles::StyleData& whole =
-            style->owner == nullptr ? *style : Styles::StyleData::Of(*style->owner);
+        const Styles::StyleData& style = image.GetStyle();
+        const Styles::StyleData& whole = style.owner == nullptr ? style : Styles::StyleData::Of(*style.owner);
         // Nobody inherits from an object.
         if (cascades.FindUser(whole).object == nullptr)
             AddChangedRows(rows, image);
     }
+    if (rows.empty())
+        return;
     const std::vector<bool> isConcerned = cascades.FindRelative(rows);
     if (std::ranges::find(isConcerned, true) == isConcerned.end())
         return;

@@ -35,6 +35,7 @@ private:
     const PropertyMappings& table;
     CascadeStyles& cascades;
     std::deque<DrawingObject>& objects;
+    bool hasAny = false; ///< Whether the file gives any such value at all.
 };
 
 } // namespace ReferenceHost

@@ -13,7 +13,7 @@ namespace
 {
 
 /// How much of the work is done when there is a tree, before it is indexed.
-constexpr double kParsed = 0.4;
+constexpr double kParsed = 0.5;
 
 /// What stands in the root of a document, in this order.
 constexpr std::array<std::string_view, 8> kContainers{
@@ -21,8 +21,9 @@ constexpr std::array<std::string_view, 8> kContainers{
 
 } // namespace
 
-SavedPart::SavedPart(std::string_view text, const std::string& label, const ProgressSpan& progress)
-    : source(text, label, progress.Part(0, kParsed)), edits(source)
+SavedPart::SavedPart(std::string_view text, const std::string& label, XmlTrust trust,
+                     const ProgressSpan& progress)
+    : source(text, label, progress.Part(0, kParsed), trust), edits(source)
 {
     ProgressSpan indexing = progress.Part(ProgressPhase::Comparing, kParsed, 1);
     indexing.Start(text.size());
@@ -33,7 +34,7 @@ void SavedPart::Index(pugi::xml_node element, ProgressSpan& progress)
 {
     const std::size_t place = source.BeginOf(element);
     progress.Reach(place);
-    elements.emplace(place, element);
+    elements.push_back({place, element});
     for (const pugi::xml_attribute attribute : element.attributes())
     {
         const std::string_view name = attribute.name();
@@ -51,8 +52,9 @@ void SavedPart::Index(pugi::xml_node element, ProgressSpan& progress)
 
 pugi::xml_node SavedPart::FindElement(std::size_t place) const
 {
-    const auto found = elements.find(place);
-    return found == elements.end() ? pugi::xml_node() : found->second;
+    const auto found = std::ranges::lower_bound(elements, place, {}, &PlacedElement::place);
+    const bool isThere = found != elements.end() && found->place == place;
+    return isThere ? found->element : pugi::xml_node();
 }
 
 std::size_t SavedPart::CountReferences(std::string_view styleName) const

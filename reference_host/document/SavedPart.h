@@ -11,6 +11,7 @@
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <vector>
 
 namespace ReferenceHost
 {
@@ -22,8 +23,10 @@ public:
     /// Borrows the text.
     ///
     /// @param label    names the text in errors.
+    /// @param trust    whether the text was checked when the drawing was opened.
     /// @param progress of reading it.
-    SavedPart(std::string_view text, const std::string& label, const ProgressSpan& progress = {});
+    SavedPart(std::string_view text, const std::string& label, XmlTrust trust,
+              const ProgressSpan& progress = {});
 
     [[nodiscard]] const XmlSource& GetSource() const noexcept { return source; }
 
@@ -42,11 +45,18 @@ public:
     [[nodiscard]] pugi::xml_node FindContainer(std::string_view local) const;
 
 private:
+    /// An element and where its start tag stands.
+    struct PlacedElement
+    {
+        std::size_t place;
+        pugi::xml_node element;
+    };
+
     void Index(pugi::xml_node element, ProgressSpan& progress);
 
     XmlSource source;
     XmlEdits edits;
-    std::unordered_map<std::size_t, pugi::xml_node> elements; ///< By the places of their start tags.
+    std::vector<PlacedElement> elements; ///< In the order of the text, which is that of their places.
     std::unordered_map<std::string_view, std::size_t> references;
     std::unordered_set<std::string_view> styleNames;
 };

@@ -28,12 +28,19 @@ bool WasAskedFor(DrawingObject& object)
            std::ranges::any_of(object.GetRuns(), isMade);
 }
 
-/// Makes the style of a shape that repeats values of styles of one category, which may have changed: what
-/// stands beside them for other programs must follow.
-void MakeDependent(DrawingObject& object, const StyleRecord* record)
+/// Tells whether a shape or its text has values that are a part of inherited ones, which may have changed.
+bool HasRelativeValues(const DrawingObject& object, const CascadeStyles& cascades)
 {
-    if (record != nullptr && record->origin == StyleOrigin::Automatic && !record->substyleParents.empty())
-        static_cast<void>(object.GetStyle());
+    const auto isRelative = [&cascades](const auto& user)
+    { return cascades.HasRelativeValues(user.GetCascade()); };
+    return isRelative(object) || std::ranges::any_of(object.GetParagraphs(), isRelative) ||
+           std::ranges::any_of(object.GetRuns(), isRelative);
+}
+
+/// Tells whether a shape can be otherwise than the file says, by a change or by values that follow others.
+bool MayDiffer(DrawingObject& object, const CascadeStyles& cascades)
+{
+    return object.WasChanged() || (WasAskedFor(object) && HasRelativeValues(object, cascades));
 }
 
 /// Fills in what leaves shall have: what the unit has, or what the file gives for one never asked for.
@@ -114,11 +121,15 @@ void ShapeEdits::Write(DrawingObject& object)
 {
     if (object.IsGroup())
         return;
+    // One that repeats values of styles of one category, which may have changed: what stands beside them for
+    // other programs must follow. Its style has to be there for that.
+    const bool repeatsValues = context.data.cascades.HasSubstyleParents(object.GetCascade());
+    if (repeatsValues)
+        static_cast<void>(object.GetStyle());
+    else if (!MayDiffer(object, context.data.cascades))
+        return;
     const pugi::xml_node element = content.FindElement(object.GetPlace());
-    const StyleReference reference = ReferTo(element, Odf::kDraw, "style-name", StyleFamily::Graphic);
-    MakeDependent(object, reference.record);
-    if (WasAskedFor(object))
-        WriteShape(object, element, reference);
+    WriteShape(object, element, ReferTo(element, Odf::kDraw, "style-name", StyleFamily::Graphic));
 }
 
 StyleReference ShapeEdits::ReferTo(pugi::xml_node element, std::string_view uri, std::string_view local,

@@ -24,7 +24,7 @@ public:
     ShapeEdits(const SavingContext& savingContext, SavedPart& contentPart, const NamedStyleEdits& namedStyles,
                AutomaticStyleEdits& automaticStyles);
 
-    /// Looks at one shape. One of which no style was ever asked for is as the file says.
+    /// Looks at one shape. One of which no style was ever changed is as the file says.
     void Write(DrawingObject& object);
 
 private:

@@ -40,6 +40,10 @@ constexpr std::array<Kind, 17> kKinds{{{{Odf::kDraw, "custom-shape"}, L"custom-s
                                        {{Odf::kDraw, "g"}, L"group"},
                                        {{Odf::kDr3d, "scene"}, L"scene"}}};
 
+/// What is read of the start tag of an object, by its place in what comes back.
+constexpr std::array<XmlName, 3> kObjectAttributes{
+    {{Odf::kDraw, "name"}, {Odf::kDraw, "style-name"}, {Odf::kDraw, "text-style-name"}}};
+
 constexpr XmlName kGroup{Odf::kDraw, "g"};
 constexpr XmlName kLink{Odf::kDraw, "a"};
 constexpr XmlName kPage{Odf::kDraw, "page"};
@@ -115,14 +119,16 @@ void ShapeReader::ReadMember(pugi::xml_node element, const Place& place)
     const auto* const kind = std::ranges::find(kKinds, name, &Kind::element);
     if (kind == kKinds.end())
         return;
+    const auto [objectName, styleName, textStyleName] = names.Attributes(element, kObjectAttributes);
     DrawingObject& object = AddObject(element, place);
+    object.name = OvxUtils::FromUtf8(objectName);
     progress.Reach(object.place - start);
     object.kind = kind->name;
     object.isGroup = name == kGroup;
     if (object.isGroup)
         ReadMembers(element, {place.page, &object, &object.members});
     else
-        ReadStyle(element, object);
+        ReadStyle(element, object, styleName, textStyleName);
 }
 
 DrawingObject& ShapeReader::AddObject(pugi::xml_node element, const Place& place)
@@ -131,13 +137,12 @@ DrawingObject& ShapeReader::AddObject(pugi::xml_node element, const Place& place
     DrawingObject& object = allObjects->emplace_back(*place.page, place.group, place.members->size() + 1);
     place.members->push_back(&object);
     object.place = PlaceOfElement(element, source);
-    object.name = OvxUtils::FromUtf8(names.Attribute(element, {Odf::kDraw, "name"}));
     return object;
 }
 
-void ShapeReader::ReadStyle(pugi::xml_node element, DrawingObject& object)
+void ShapeReader::ReadStyle(pugi::xml_node element, DrawingObject& object, std::string_view styleName,
+                            std::string_view textStyleName)
 {
-    const std::string_view styleName = names.Attribute(element, {Odf::kDraw, "style-name"});
     const StyleRecord* const record = catalogue.Find(StyleFamily::Graphic, styleName);
     if (record == nullptr && !styleName.empty())
     {
@@ -148,8 +153,7 @@ void ShapeReader::ReadStyle(pugi::xml_node element, DrawingObject& object)
     if (parent.isMissing)
         ReportMissingParent(*record);
     StyleLevels levels;
-    AddTextStyle(levels, catalogue, StyleFamily::Paragraph,
-                 names.Attribute(element, {Odf::kDraw, "text-style-name"}), warnings);
+    AddTextStyle(levels, catalogue, StyleFamily::Paragraph, textStyleName, warnings);
     const std::size_t textLevels = levels.size();
     if (record != nullptr && record->origin == StyleOrigin::Automatic)
         levels.push_back(record);

@@ -55,7 +55,8 @@ private:
     void ReadMembers(pugi::xml_node container, const Place& place);
     void ReadMember(pugi::xml_node element, const Place& place);
     DrawingObject& AddObject(pugi::xml_node element, const Place& place);
-    void ReadStyle(pugi::xml_node element, DrawingObject& object);
+    void ReadStyle(pugi::xml_node element, DrawingObject& object, std::string_view styleName,
+                   std::string_view textStyleName);
     void ReportMissingParent(const StyleRecord& automatic);
 
     StyleCatalogue& catalogue;

@@ -161,8 +161,10 @@ OvxStringT DecodeStyleName(std::string_view encoded)
             encoded.remove_prefix(length);
             continue;
         }
-        decoded += encoded.front();
-        encoded.remove_prefix(1);
+        // Nothing that is encoded begins before the next underscore.
+        const std::string_view plain = encoded.substr(0, encoded.find('_', 1));
+        decoded += plain;
+        encoded.remove_prefix(plain.size());
     }
     return OvxUtils::FromUtf8(decoded);
 }

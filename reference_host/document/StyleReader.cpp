@@ -45,6 +45,15 @@ std::optional<StyleFamily> FindFamily(std::string_view name)
     return found == kFamilies.end() ? std::nullopt : std::optional(found->second);
 }
 
+/// What is read of the start tag of a style, by its place in what comes back.
+constexpr std::array<XmlName, 7> kStyleAttributes{{{Odf::kStyle, "family"},
+                                                   {Odf::kStyle, "name"},
+                                                   {Odf::kStyle, "parent-style-name"},
+                                                   {Odf::kStyle, "display-name"},
+                                                   {Odf::kStyle, "hidden"},
+                                                   {OwnMarkup::kNamespace, OwnMarkup::kCategory},
+                                                   {OwnMarkup::kNamespace, OwnMarkup::kParent}}};
+
 /// Tells whether styles of a family hold an element: each family adds one to those of the next.
 bool HoldsElement(StyleFamily family, PropertyElement element)
 {
@@ -113,7 +122,9 @@ void StyleReader::ReadStyles(pugi::xml_node container, std::string_view text, Xm
                              StyleOrigin origin, ProgressSpan progress)
 {
     const auto elements = container.children();
-    progress.Start(static_cast<std::size_t>(std::distance(elements.begin(), elements.end())));
+    const auto count = static_cast<std::size_t>(std::distance(elements.begin(), elements.end()));
+    progress.Start(count);
+    catalogue.Reserve(origin, count / 2); // Every other child is the blanks between two styles.
     std::size_t done = 0;
     for (const pugi::xml_node element : elements)
     {
@@ -140,36 +151,37 @@ void StyleReader::ReadDefault(pugi::xml_node element, std::string_view text, Xml
 void StyleReader::ReadStyle(pugi::xml_node element, std::string_view text, XmlNames& names,
                             StyleOrigin origin)
 {
-    const std::optional<StyleFamily> family = FindFamily(names.Attribute(element, {Odf::kStyle, "family"}));
+    const auto [familyName, name, parentName, displayName, hidden, ownCategory, ownParentName] =
+        names.Attributes(element, kStyleAttributes);
+    const std::optional<StyleFamily> family = FindFamily(familyName);
     if (!family)
         return;
     StyleRecord record;
     record.family = *family;
     record.origin = origin;
     record.place = PlaceOfElement(element, text);
-    record.name = names.Attribute(element, {Odf::kStyle, "name"});
+    record.name = name;
     if (record.name.empty())
         return warnings.Add("a style without a name was passed over");
-    record.parentName = names.Attribute(element, {Odf::kStyle, "parent-style-name"});
-    record.displayName = names.Attribute(element, {Odf::kStyle, "display-name"});
-    record.isHidden = names.Attribute(element, {Odf::kStyle, "hidden"}) == "true";
-    record.ownCategory = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kCategory});
-    record.ownParentName = names.Attribute(element, {OwnMarkup::kNamespace, OwnMarkup::kParent});
-    record.hasNoParent = record.parentName.empty() && record.ownParentName.empty() &&
-                         names.HasAttribute(element, {OwnMarkup::kNamespace, OwnMarkup::kParent});
+    record.parentName = parentName;
+    record.displayName = displayName;
+    record.isHidden = hidden == "true";
+    record.ownCategory = ownCategory;
+    record.ownParentName = ownParentName;
+    record.hasNoParent = parentName.empty() && ownParentName.empty() && ownParentName.data() != nullptr;
     ReadProperties(element, names, record);
     ReadSubstyleParents(element, names, record);
     // Programs repeat styles word for word; only a difference is worth a report.
-    const StyleRecord* const earlier = catalogue.FindSame(record);
+    const StyleRecord* const earlier = catalogue.AddUnlessThere(record);
     if (earlier == nullptr)
-        catalogue.Add(std::move(record));
-    else if (earlier->parentName != record.parentName || earlier->values != record.values)
+        return;
+    if (earlier->parentName != record.parentName || earlier->values != record.values)
         warnings.AddAbout(record, "it is there twice; the first one counts");
 }
 
 void StyleReader::ReadSubstyleParents(pugi::xml_node element, XmlNames& names, StyleRecord& record) const
 {
-    if (record.family != StyleFamily::Graphic)
+    if (record.family != StyleFamily::Graphic || !names.IsInForce(OwnMarkup::kNamespace))
         return;
     for (const Styles::PropertyKey& key : table.GetCategories())
     {
@@ -199,25 +211,28 @@ void StyleReader::ReadSubstyleParents(pugi::xml_node element, XmlNames& names, S
 
 void StyleReader::ReadProperties(pugi::xml_node styleElement, XmlNames& names, StyleRecord& record)
 {
-    Found found;
+    found.values.clear();
+    found.links.clear();
     for (const pugi::xml_node element : styleElement.children())
     {
+        if (element.type() != pugi::node_element)
+            continue;
         const XmlNames::Scope scope(names, element);
         const XmlName name = names.Of(element);
         const std::optional<PropertyElement> kind = FindPropertyElement(name.local);
         if (name.uri != Odf::kStyle || !kind || !HoldsElement(record.family, *kind))
             continue;
-        for (const pugi::xml_attribute attribute : element.attributes())
-            ReadAttribute(attribute, names.Of(attribute), *kind, record, found);
+        for (pugi::xml_attribute attribute = element.first_attribute(); attribute;
+             attribute = attribute.next_attribute())
+            ReadAttribute(attribute, names.Of(attribute), *kind, record);
     }
-    KeepFirstRows(found.values);
-    record.values = std::move(found.values);
+    record.values = TakeFirstRows();
     for (const ColourLink& link : found.links)
         LinkColour(link, record);
 }
 
 void StyleReader::ReadAttribute(pugi::xml_attribute attribute, XmlName name, PropertyElement element,
-                                const StyleRecord& record, Found& found)
+                                const StyleRecord& record)
 {
     const std::string_view text = TrimXmlBlanks(attribute.value());
     if (element == PropertyElement::Text && name == XmlName{Odf::kStyle, "use-window-font-color"})
@@ -247,18 +262,29 @@ void StyleReader::ReadAttribute(pugi::xml_attribute attribute, XmlName name, Pro
     }
 }
 
-void StyleReader::KeepFirstRows(std::vector<StyleValue>& values) const
+std::vector<StyleValue> StyleReader::TakeFirstRows()
 {
-    // The colour of the window stands before a colour, and otherwise the earlier row before the later.
-    std::ranges::stable_sort(
-        values, {}, [](const StyleValue& value) { return std::pair(value.row, !value.IsWindowColour()); });
-    for (StyleValue& value : values)
-        value.row = table.GetFirstRow(value.row);
-    // An extension may hold further rows of a property that do not stand beside the others.
-    std::ranges::stable_sort(values, {}, &StyleValue::row);
-    const auto isSameProperty = [](const StyleValue& left, const StyleValue& right)
-    { return left.row == right.row; };
-    values.erase(std::unique(values.begin(), values.end(), isSameProperty), values.end());
+    // By properties: an extension may hold further rows of one that do not stand beside the others. Of each,
+    // the colour of the window stands before a colour, and otherwise the earlier row before the later.
+    order.clear();
+    for (std::size_t place = 0; place < found.values.size(); ++place)
+    {
+        const StyleValue& value = found.values[place];
+        order.push_back({table.GetFirstRow(value.row), value.row, !value.IsWindowColour(), place});
+    }
+    std::ranges::sort(order);
+    const auto isSameProperty = [](const Ordered& left, const Ordered& right)
+    { return left.firstRow == right.firstRow; };
+    order.erase(std::unique(order.begin(), order.end(), isSameProperty), order.end());
+
+    std::vector<StyleValue> values;
+    values.reserve(order.size());
+    for (const Ordered& each : order)
+    {
+        values.push_back(std::move(found.values[each.place]));
+        values.back().row = each.firstRow;
+    }
+    return values;
 }
 
 void StyleReader::LinkColour(const ColourLink& link, StyleRecord& record)

@@ -11,6 +11,7 @@
 
 #include <pugixml.hpp>
 
+#include <compare>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -66,14 +67,25 @@ private:
         std::vector<ColourLink> links;
     };
 
+    /// The order of what was found, first things first.
+    struct Ordered
+    {
+        std::size_t firstRow;
+        std::size_t row;
+        bool isNoWindowColour;
+        std::size_t place; ///< In Found::values.
+
+        friend auto operator<=>(const Ordered&, const Ordered&) = default;
+    };
+
     void ReadDeclaration(pugi::xml_node element, XmlNames& names);
     void ReadDefault(pugi::xml_node element, std::string_view text, XmlNames& names);
     void ReadStyle(pugi::xml_node element, std::string_view text, XmlNames& names, StyleOrigin origin);
     void ReadSubstyleParents(pugi::xml_node element, XmlNames& names, StyleRecord& record) const;
     void ReadProperties(pugi::xml_node styleElement, XmlNames& names, StyleRecord& record);
     void ReadAttribute(pugi::xml_attribute attribute, XmlName name, PropertyElement element,
-                       const StyleRecord& record, Found& found);
-    void KeepFirstRows(std::vector<StyleValue>& values) const;
+                       const StyleRecord& record);
+    [[nodiscard]] std::vector<StyleValue> TakeFirstRows();
     void LinkColour(const ColourLink& link, StyleRecord& record);
 
     const PropertyMappings& table;
@@ -83,6 +95,10 @@ private:
     DeclaredNames declared;
     std::optional<StyleRecord> defaults;
     std::size_t textColourRow; ///< The row of the colour of text.
+
+    // Of the style being read, and kept for their room
+    Found found;
+    std::vector<Ordered> order;
 };
 
 } // namespace ReferenceHost

@@ -5,16 +5,19 @@
 namespace ReferenceHost
 {
 
-const StyleRecord* StyleCatalogue::FindSame(const StyleRecord& record) const
+const StyleRecord* StyleCatalogue::AddUnlessThere(StyleRecord& record)
 {
-    return Find(record.origin, record.family, record.name);
+    if (const StyleRecord* const same = Find(record.origin, record.family, record.name))
+        return same;
+    StyleRecord& added = records.emplace_back(std::move(record));
+    NamesOf(added.origin, added.family).emplace(added.name, &added);
+    return nullptr;
 }
 
-void StyleCatalogue::Add(StyleRecord record)
+void StyleCatalogue::Reserve(StyleOrigin origin, std::size_t count)
 {
-    StyleRecord& added = records.emplace_back(std::move(record));
-    byName[static_cast<std::size_t>(added.origin)][static_cast<std::size_t>(added.family)][added.name] =
-        &added;
+    RecordsByName& names = NamesOf(origin, StyleFamily::Graphic);
+    names.reserve(names.size() + count);
 }
 
 const StyleRecord* StyleCatalogue::Find(StyleFamily family, std::string_view name) const

@@ -81,11 +81,14 @@ struct StyleRecord
 class StyleCatalogue
 {
 public:
-    /// The style of the same name, family and origin; null when there is none.
-    [[nodiscard]] const StyleRecord* FindSame(const StyleRecord& record) const;
+    /// Adds a style, unless there is one of the same name, family and origin.
+    ///
+    /// @returns the one that was there, and `record` is as it was; null when it was added, and `record` is
+    /// empty.
+    const StyleRecord* AddUnlessThere(StyleRecord& record);
 
-    /// Adds a style of which there is none the same.
-    void Add(StyleRecord record);
+    /// Makes room for so many more styles of an origin, as far as they are of the graphic family.
+    void Reserve(StyleOrigin origin, std::size_t count);
 
     /// Lets the named styles of a catalogue be found where neither this one nor those added before have one
     /// of the name. Borrowed.
@@ -107,8 +110,14 @@ private:
     [[nodiscard]] StyleRecord* Find(StyleOrigin origin, StyleFamily family, std::string_view name) const;
 
     std::deque<StyleRecord> records;
-    std::unordered_map<std::string_view, StyleRecord*>
-        byName[2][3]; ///< By origin and family; keys lie in the records.
+    using RecordsByName = std::unordered_map<std::string_view, StyleRecord*>; ///< Keys lie in the records.
+
+    [[nodiscard]] RecordsByName& NamesOf(StyleOrigin origin, StyleFamily family)
+    {
+        return byName[static_cast<std::size_t>(origin)][static_cast<std::size_t>(family)];
+    }
+
+    RecordsByName byName[2][3]; ///< By origin and family.
     std::vector<StyleCatalogue*> fallbacks;
 };
 

@@ -234,23 +234,41 @@ private:
 TextSettling::TextSettling(const PropertyMappings& properties, CascadeStyles& cascadeStyles)
     : table(properties), cascades(cascadeStyles)
 {
+    for (const PropertyKey& category : table.GetCategories())
+    {
+        if (ConcernsText(table, category))
+            textCategories.push_back(category);
+    }
+}
+
+/// A fill or outline, as most of what changes, is known without asking whose it is; a whole style concerns
+/// text when it has another parent.
+bool TextSettling::MayConcernText(const StyleImage& image) const
+{
+    const StyleData& style = image.GetStyle();
+    if (style.owner == nullptr)
+        return style.GetParent() != image.GetParent();
+    return std::ranges::find(textCategories, style.name) != textCategories.end();
 }
 
 void TextSettling::Settle(const StepChanges& changes)
 {
     // Bringing shapes in line adds to the changes: what is to be done is known before.
     std::unordered_map<DrawingObject*, ShapeChange> shapes;
-    for (const auto& [style, image] : changes.GetImages())
+    for (const StyleImage& image : changes.GetImages())
     {
-        const StyleData& whole = style->owner == nullptr ? *style : StyleData::Of(*style->owner);
+        if (!MayConcernText(image))
+            continue;
+        const StyleData& style = image.GetStyle();
+        const StyleData& whole = style.owner == nullptr ? style : StyleData::Of(*style.owner);
         const StyleUser user = cascades.FindUser(whole);
         if (user.object == nullptr || user.object->GetParagraphs().empty())
             continue;
         ShapeChange& shape = shapes[user.object];
         WholeChange& change = user.unit == nullptr ? shape.object : shape.units[user.unit];
-        if (style->owner != nullptr)
+        if (style.owner != nullptr)
             AddSubstyle(change, image, table);
-        else if (style->GetParent() != image.GetParent())
+        else
             change.hasNewParent = true;
     }
     for (const auto& [object, change] : shapes)

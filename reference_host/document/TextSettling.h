@@ -4,6 +4,8 @@
 #include "reference_host/document/PropertyMappings.h"
 #include "reference_host/history/StepChanges.h"
 
+#include <vector>
+
 namespace ReferenceHost
 {
 
@@ -30,8 +32,11 @@ public:
     void Settle(const StepChanges& changes);
 
 private:
+    [[nodiscard]] bool MayConcernText(const StyleImage& image) const;
+
     const PropertyMappings& table;
     CascadeStyles& cascades;
+    std::vector<Styles::PropertyKey> textCategories; ///< Those with properties of text.
 };
 
 } // namespace ReferenceHost

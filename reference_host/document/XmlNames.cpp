@@ -7,9 +7,14 @@ namespace ReferenceHost
 
 XmlNames::Scope::Scope(XmlNames& owner, pugi::xml_node element) : names(owner), mark(owner.bindings.Mark())
 {
-    for (const pugi::xml_attribute attribute : element.attributes())
+    for (pugi::xml_attribute attribute = element.first_attribute(); attribute;
+         attribute = attribute.next_attribute())
     {
-        const std::string_view name = attribute.name();
+        // Nearly all elements and attributes of a drawing come here, and few are declarations.
+        const char* const spelling = attribute.name();
+        if (spelling[0] != 'x' || spelling[1] != 'm')
+            continue;
+        const std::string_view name = spelling;
         if (!name.starts_with("xmlns"))
             continue;
         if (name.size() == 5)
@@ -46,13 +51,26 @@ XmlName XmlNames::Of(pugi::xml_attribute attribute)
 
 std::string_view XmlNames::Attribute(pugi::xml_node element, XmlName name)
 {
-    for (const pugi::xml_attribute attribute : element.attributes())
+    for (pugi::xml_attribute attribute = element.first_attribute(); attribute;
+         attribute = attribute.next_attribute())
     {
         // Comparing the end of the spelling first spares most attributes their namespace.
         if (std::string_view(attribute.name()).ends_with(name.local) && Of(attribute) == name)
             return attribute.value();
     }
     return {};
+}
+
+void XmlNames::KeepIfWanted(pugi::xml_attribute attribute, std::span<const XmlName> wanted,
+                            std::span<std::string_view> values)
+{
+    const std::string_view spelling = attribute.name();
+    const std::string_view local = spelling.substr(spelling.find(':') + 1);
+    for (std::size_t place = 0; place < wanted.size(); ++place)
+    {
+        if (wanted[place].local == local && Of(attribute) == wanted[place])
+            values[place] = attribute.value();
+    }
 }
 
 bool XmlNames::HasAttribute(pugi::xml_node element, XmlName name)

@@ -4,7 +4,9 @@
 
 #include <pugixml.hpp>
 
+#include <array>
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 namespace ReferenceHost
@@ -16,7 +18,11 @@ struct XmlName
     std::string_view uri;
     std::string_view local;
 
-    friend bool operator==(const XmlName&, const XmlName&) = default;
+    /// The local names first: they differ more often, and are shorter.
+    friend bool operator==(const XmlName& left, const XmlName& right)
+    {
+        return left.local == right.local && left.uri == right.uri;
+    }
 };
 
 /// Resolves the names of a tree while it is walked.
@@ -49,10 +55,29 @@ public:
     /// The value of an attribute of the element whose Scope is in force; empty without it.
     [[nodiscard]] std::string_view Attribute(pugi::xml_node element, XmlName name);
 
+    /// The values of several attributes of the element whose Scope is in force, in one pass over what it has;
+    /// null without it, which is not the same as empty here.
+    template <std::size_t count>
+    [[nodiscard]] std::array<std::string_view, count> Attributes(pugi::xml_node element,
+                                                                 const std::array<XmlName, count>& wanted)
+    {
+        std::array<std::string_view, count> values;
+        for (pugi::xml_attribute attribute = element.first_attribute(); attribute;
+             attribute = attribute.next_attribute())
+            KeepIfWanted(attribute, wanted, values);
+        return values;
+    }
+
     /// Tells whether the element whose Scope is in force has an attribute, also an empty one.
     [[nodiscard]] bool HasAttribute(pugi::xml_node element, XmlName name);
 
+    /// Tells whether any prefix stands for a namespace here; without one there are no names of it.
+    [[nodiscard]] bool IsInForce(std::string_view uri) const { return bindings.IsInForce(uri); }
+
 private:
+    void KeepIfWanted(pugi::xml_attribute attribute, std::span<const XmlName> wanted,
+                      std::span<std::string_view> values);
+
     NamespaceBindings bindings;
 };
 

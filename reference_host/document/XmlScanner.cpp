@@ -104,6 +104,9 @@ void XmlScanner::ScanDeclaration()
 
 void XmlScanner::ScanMarkup()
 {
+    const std::size_t next = place + 1;
+    if (next < text.size() && IsXmlNameStartByte(text[next]))
+        return ScanStartTag();
     if (StartsWith("</"))
         return ScanEndTag();
     if (StartsWith("<?"))
@@ -122,7 +125,7 @@ void XmlScanner::ScanMarkup()
 void XmlScanner::ScanEndTag()
 {
     place += 2;
-    const std::string_view name = ScanName();
+    const std::string_view name = ScanName().text;
     SkipBlanks();
     if (open.empty())
         Fail("</" + std::string(name) + "> closes an element that was never opened", "one root element");
@@ -156,7 +159,7 @@ void XmlScanner::ScanCharacterData()
 void XmlScanner::ScanInstruction()
 {
     place += 2;
-    const std::string_view target = ScanName();
+    const std::string_view target = ScanName().text;
     if (EqualIgnoringCase(target, "xml"))
         Fail("an XML declaration stands inside the text", "it at the very beginning");
     SkipThrough("?>", "processing instruction");
@@ -215,6 +218,15 @@ void XmlScanner::SkipPlain()
             return;
         SkipUnusual();
     }
+}
+
+void XmlScanner::SkipNameBytes()
+{
+    const char* at = text.data() + place;
+    const char* const end = text.data() + text.size();
+    while (at != end && IsPlainXmlNameByte(*at))
+        ++at;
+    place = static_cast<std::size_t>(at - text.data());
 }
 
 void XmlScanner::SkipCharacter()

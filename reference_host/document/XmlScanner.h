@@ -31,9 +31,18 @@ private:
         std::size_t bindings; ///< The namespaces in force outside of it.
     };
 
+    /// A qualified name.
+    struct Name
+    {
+        std::string_view text;
+        std::size_t colon; ///< Its place; 0 without one.
+
+        [[nodiscard]] std::string_view GetPrefix() const { return text.substr(0, colon); }
+    };
+
     struct Attribute
     {
-        std::string_view name;
+        Name name;
         std::string_view value;
     };
 
@@ -49,19 +58,21 @@ private:
     void ScanText();
 
     // Pieces of a tag
-    std::string_view ScanName();
+    Name ScanName();
     void ScanAttribute();
     void ScanAttributeValue(char quote);
     void ScanReference();
-    void DeclareNamespaces(std::string_view element);
     void DeclareNamespace(const Attribute& attribute);
-    void CheckPrefixes(std::string_view element);
+    void CheckPrefixes(const Name& element);
     void CheckDuplicates(std::string_view element);
     void CheckResolvedDuplicates(std::string_view element);
 
     // Characters
     void SkipBlanks();
     void SkipPlain();
+
+    /// What a name may hold, up to a colon or a character of several bytes.
+    void SkipNameBytes();
 
     void SkipCharacter();
 

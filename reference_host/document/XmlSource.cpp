@@ -21,8 +21,12 @@ std::size_t LengthOfMark(std::string_view text)
 
 } // namespace
 
-XmlSource::XmlSource(std::string_view xml, const std::string& label, const ProgressSpan& progress)
-    : text(xml), shift(LengthOfMark(xml)), tree(ParseXml(xml, label, progress))
+XmlSource::XmlSource(std::string_view xml, const std::string& label, const ProgressSpan& progress,
+                     XmlTrust trust)
+    : text(xml),
+      shift(LengthOfMark(xml)),
+      tree(trust == XmlTrust::WasChecked ? ParseCheckedXml(xml, label, progress)
+                                         : ParseXml(xml, label, progress))
 {
 }
 

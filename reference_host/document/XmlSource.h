@@ -13,6 +13,13 @@
 namespace ReferenceHost
 {
 
+/// Whether a text was found to be XML that can be trusted.
+enum class XmlTrust
+{
+    ToBeChecked,
+    WasChecked ///< When the drawing was opened: it is not gone over again.
+};
+
 /// An XML text together with its tree, and where in the text the nodes of the tree stand.
 class XmlSource
 {
@@ -22,7 +29,8 @@ public:
     /// @param label    names the text in errors.
     /// @param progress of checking and parsing it.
     /// @throws DocumentError
-    XmlSource(std::string_view xml, const std::string& label, const ProgressSpan& progress = {});
+    XmlSource(std::string_view xml, const std::string& label, const ProgressSpan& progress = {},
+              XmlTrust trust = XmlTrust::ToBeChecked);
 
     [[nodiscard]] std::string_view GetText() const noexcept { return text; }
 

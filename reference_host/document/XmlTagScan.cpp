@@ -21,24 +21,19 @@ constexpr std::size_t kFewAttributes = 24;
 
 constexpr std::array<std::string_view, 5> kKnownEntities{"lt", "gt", "amp", "apos", "quot"};
 
-/// A qualified name in two parts; the prefix is empty without a colon.
-struct SplitName
-{
-    std::string_view prefix;
-    std::string_view local;
-};
-
-SplitName Split(std::string_view name)
-{
-    const std::size_t colon = name.find(':');
-    if (colon == std::string_view::npos)
-        return {{}, name};
-    return {name.substr(0, colon), name.substr(colon + 1)};
-}
-
 bool IsDeclaration(std::string_view name)
 {
     return name.starts_with("xmlns") && (name.size() == 5 || name[5] == ':');
+}
+
+/// A bit for a name, by which most names differ. Names of one element often begin alike.
+std::uint64_t FingerprintOf(std::string_view name)
+{
+    const auto byteAt = [&name](std::size_t place) -> std::size_t
+    { return static_cast<unsigned char>(name[place]); };
+    const std::size_t mixed =
+        name.size() * 5 + byteAt(name.size() - 1) * 3 + byteAt(name.size() / 2) * 7 + byteAt(0);
+    return std::uint64_t{1} << (mixed % 64);
 }
 
 /// Tells whether the text between "&#" and ";" names a character that XML allows.
@@ -60,10 +55,10 @@ void XmlScanner::ScanStartTag()
     if (open.empty() && rootSeen)
         Fail("there is a second root element", "one root element");
     CountNode();
-    const std::string_view element = ScanName();
+    const Name element = ScanName();
     const std::size_t outerBindings = bindings.Mark();
     attributes.clear();
-    open.push_back({element, outerBindings});
+    open.push_back({element.text, outerBindings});
     if (open.size() > kDeepestNesting)
         Fail("elements nest deeper than " + std::to_string(kDeepestNesting), "a flatter document");
     rootSeen = true;
@@ -79,8 +74,8 @@ void XmlScanner::ScanStartTag()
             Fail("two attributes are not separated", "a blank between them");
         ScanAttribute();
     }
-    DeclareNamespaces(element);
-    CheckDuplicates(element);
+    CheckPrefixes(element);
+    CheckDuplicates(element.text);
     const bool isEmpty = StartsWith("/>");
     if (!isEmpty && Here() == '/')
         Fail("the start tag is not finished", "\"/>\"");
@@ -91,47 +86,48 @@ void XmlScanner::ScanStartTag()
     open.pop_back();
 }
 
-std::string_view XmlScanner::ScanName()
+XmlScanner::Name XmlScanner::ScanName()
 {
     const std::size_t begin = place;
     if (AtEnd() || !IsXmlNameStartByte(Here()))
         Fail("there is no name where one must stand", R"(a name after "<"; "&lt;" for the character itself)");
     std::size_t colons = 0;
-    while (!AtEnd() && IsXmlNameByte(Here()))
+    std::size_t colon = 0;
+    for (SkipNameBytes(); !AtEnd() && IsXmlNameByte(Here()); SkipNameBytes())
     {
-        const char* at = text.data() + place;
-        const char* const end = text.data() + text.size();
-        for (; at != end && IsXmlNameByte(*at) && ClassifyXmlByte(*at) != XmlByte::Multibyte; ++at)
-            colons += *at == ':' ? 1U : 0U;
-        place = static_cast<std::size_t>(at - text.data());
-        if (!AtEnd() && ClassifyXmlByte(Here()) == XmlByte::Multibyte)
+        if (Here() != ':')
+        {
             SkipUnusual();
+            continue;
+        }
+        ++colons;
+        colon = place++ - begin;
     }
     const std::string_view name = text.substr(begin, place - begin);
     if (colons > 1 || name.front() == ':' || name.back() == ':')
         Fail("\"" + std::string(name) + "\" is no name", "at most one prefix, and a name after it");
-    return name;
+    return {name, colon};
 }
 
 void XmlScanner::ScanAttribute()
 {
     if (!IsXmlNameStartByte(Here()))
         Fail("there is something else where an attribute must stand", "an attribute or the end of the tag");
-    const std::string_view name = ScanName();
+    const Name name = ScanName();
     SkipBlanks();
     if (AtEnd() || Here() != '=')
-        Fail("the attribute " + std::string(name) + " has no value", "name=\"value\"");
+        Fail("the attribute " + std::string(name.text) + " has no value", "name=\"value\"");
     ++place;
     SkipBlanks();
     const char quote = AtEnd() ? '\0' : Here();
     if (quote != '"' && quote != '\'')
-        Fail("the value of " + std::string(name) + " is not quoted", "name=\"value\"");
+        Fail("the value of " + std::string(name.text) + " is not quoted", "name=\"value\"");
     CountNode();
     const std::size_t begin = ++place;
     ScanAttributeValue(quote);
     if (place - begin > kLongestValue)
-        Fail("the value of " + std::string(name) + " is longer than " + std::to_string(kLongestValue >> 20U) +
-                 " MiB",
+        Fail("the value of " + std::string(name.text) + " is longer than " +
+                 std::to_string(kLongestValue >> 20U) + " MiB",
              "a shorter value");
     attributes.push_back({name, text.substr(begin, place - begin)});
     if (attributes.size() > kMostAttributes)
@@ -172,20 +168,10 @@ void XmlScanner::ScanReference()
     place += name.size() + 2;
 }
 
-void XmlScanner::DeclareNamespaces(std::string_view element)
-{
-    for (const Attribute& attribute : attributes)
-    {
-        if (IsDeclaration(attribute.name))
-            DeclareNamespace(attribute);
-    }
-    CheckPrefixes(element);
-}
-
 void XmlScanner::DeclareNamespace(const Attribute& attribute)
 {
-    const bool isDefault = attribute.name.size() == 5;
-    const std::string_view prefix = isDefault ? std::string_view() : attribute.name.substr(6);
+    const bool isDefault = attribute.name.text.size() == 5;
+    const std::string_view prefix = isDefault ? std::string_view() : attribute.name.text.substr(6);
     if (!isDefault && attribute.value.empty())
         Fail("the prefix " + std::string(prefix) + " is declared for no namespace", "the URI of a namespace");
     bindings.Declare(prefix, attribute.value);
@@ -194,18 +180,29 @@ void XmlScanner::DeclareNamespace(const Attribute& attribute)
              "at most " + std::to_string(kMostNamespacesInForce) + " in one place");
 }
 
-void XmlScanner::CheckPrefixes(std::string_view element)
+void XmlScanner::CheckPrefixes(const Name& element)
 {
-    const auto check = [this](std::string_view name)
+    // Declarations hold for the whole tag, also for what stands before them.
+    for (const Attribute& attribute : attributes)
     {
-        const std::string_view prefix = Split(name).prefix;
-        if (!prefix.empty() && bindings.Find(prefix) == nullptr)
-            Fail("the prefix of " + std::string(name) + " is not declared", "xmlns:" + std::string(prefix));
+        if (IsDeclaration(attribute.name.text))
+            DeclareNamespace(attribute);
+    }
+    std::string_view found; // Attributes with one prefix often follow each other.
+    const auto check = [this, &found](const Name& name)
+    {
+        const std::string_view prefix = name.GetPrefix();
+        if (prefix.empty() || prefix == found)
+            return;
+        if (bindings.Find(prefix) == nullptr)
+            Fail("the prefix of " + std::string(name.text) + " is not declared",
+                 "xmlns:" + std::string(prefix));
+        found = prefix;
     };
     check(element);
     for (const Attribute& attribute : attributes)
     {
-        if (!IsDeclaration(attribute.name))
+        if (!IsDeclaration(attribute.name.text))
             check(attribute.name);
     }
 }
@@ -216,20 +213,24 @@ void XmlScanner::CheckDuplicates(std::string_view element)
     { Fail("the attribute " + std::string(name) + " stands there twice", "it once", element); };
     if (attributes.size() <= kFewAttributes)
     {
-        for (std::size_t later = 1; later < attributes.size(); ++later)
+        std::uint64_t seen = 0;
+        for (std::size_t later = 0; later < attributes.size(); ++later)
         {
-            for (std::size_t earlier = 0; earlier < later; ++earlier)
-            {
-                if (attributes[earlier].name == attributes[later].name)
-                    fail(attributes[later].name);
-            }
+            const std::string_view name = attributes[later].name.text;
+            const std::uint64_t fingerprint = FingerprintOf(name);
+            const auto isSame = [&](const Attribute& earlier) { return earlier.name.text == name; };
+            if ((seen & fingerprint) != 0 &&
+                std::any_of(attributes.data(), attributes.data() + later, isSame))
+                fail(name);
+            seen |= fingerprint;
         }
     }
     else
     {
         std::vector<std::string_view> names;
         names.reserve(attributes.size());
-        std::ranges::transform(attributes, std::back_inserter(names), &Attribute::name);
+        for (const Attribute& attribute : attributes)
+            names.push_back(attribute.name.text);
         std::ranges::sort(names);
         const auto twice = std::ranges::adjacent_find(names);
         if (twice != names.end())
@@ -245,9 +246,9 @@ void XmlScanner::CheckResolvedDuplicates(std::string_view element)
     std::vector<std::pair<std::string_view, std::string_view>> names;
     for (const Attribute& attribute : attributes)
     {
-        const SplitName name = Split(attribute.name);
-        if (!name.prefix.empty() && !IsDeclaration(attribute.name))
-            names.emplace_back(*bindings.Find(name.prefix), name.local);
+        const std::string_view prefix = attribute.name.GetPrefix();
+        if (!prefix.empty() && !IsDeclaration(attribute.name.text))
+            names.emplace_back(*bindings.Find(prefix), attribute.name.text.substr(prefix.size() + 1));
     }
     std::ranges::sort(names);
     const auto twice = std::ranges::adjacent_find(names);

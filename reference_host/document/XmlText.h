@@ -67,6 +67,17 @@ inline constexpr std::array<XmlNameByte, 256> kXmlNameBytes = []
     return bytes;
 }();
 
+/// Tells of each byte whether it may stand in a name and is nothing else: no colon, and no part of a longer
+/// sequence.
+inline constexpr std::array<bool, 256> kPlainXmlNameBytes = []
+{
+    std::array<bool, 256> bytes{};
+    for (std::size_t byte = 0; byte < 0x80; ++byte)
+        bytes[byte] = kXmlNameBytes[byte] != XmlNameByte::No;
+    bytes[IndexOf(':')] = false;
+    return bytes;
+}();
+
 /// The meaning of a byte.
 [[nodiscard]] constexpr XmlByte ClassifyXmlByte(char byte) noexcept
 {
@@ -77,6 +88,12 @@ inline constexpr std::array<XmlNameByte, 256> kXmlNameBytes = []
 [[nodiscard]] constexpr bool IsXmlNameByte(char byte) noexcept
 {
     return kXmlNameBytes[IndexOf(byte)] != XmlNameByte::No;
+}
+
+/// Tells whether a byte may stand in a name and is no colon and no part of a longer sequence.
+[[nodiscard]] constexpr bool IsPlainXmlNameByte(char byte) noexcept
+{
+    return kPlainXmlNameBytes[IndexOf(byte)];
 }
 
 /// Tells whether a byte may begin a name.

@@ -30,8 +30,7 @@ public:
     ///
     /// @param fileLabel names the file in errors.
     /// @throws DocumentError when it is no archive, when what its directory announces exceeds a limit, or
-    /// when
-    ///         entries share their bytes.
+    ///         when entries share their bytes.
     ZipArchive(std::string_view bytes, std::string fileLabel);
     ZipArchive(const ZipArchive&) = delete;
     ZipArchive& operator=(const ZipArchive&) = delete;
@@ -43,8 +42,7 @@ public:
     ///
     /// @param progress is started with the unpacked size.
     /// @throws DocumentError that names the entry when it is missing, there twice, encrypted, damaged, or
-    /// larger
-    ///         than a limit allows.
+    ///         larger than a limit allows.
     [[nodiscard]] std::string Read(const std::string& entry, ProgressSpan progress = {}) const;
 
     /// How errors name an entry: "x.odg, content.xml".

@@ -69,8 +69,7 @@ public:
     /// Lets the new file take the place of the old one. Once.
     ///
     /// @param check may be empty. Of several processes that replace one file with a check, one at a time
-    /// checks
-    ///              and replaces.
+    ///              checks and replaces.
     /// @throws std::system_error as the constructor does, and what the check throws.
     void TakePlace(Backup backup, const Check& check = {});
 

@@ -5,6 +5,7 @@
 #include "host/resources/Resources.h"
 #include "host/style_model/CategoryNames.h"
 
+#include <optional>
 #include <utility>
 
 namespace ReferenceHost
@@ -44,25 +45,50 @@ void WriteItself(Style& destination, const PropertyPaths& paths, const Style& ch
     destination.SetProperties(rests, &values);
 }
 
-void Write(Style& destination, const PropertyPaths& paths, const Style& change)
+/// Writes the same paths of one change to many styles.
+class ChangeWriter
 {
-    PropertyPaths throughItself;
-    PropertyPaths others;
-    for (const PropertyPath& path : paths)
+public:
+    /// Borrows both.
+    ChangeWriter(const PropertyPaths& writtenPaths, const Style& writtenChange)
+        : paths(writtenPaths), change(writtenChange)
     {
-        const bool isItself = !path.empty() && path.front() == destination.GetCategoryName();
-        (isItself ? throughItself : others).push_back(path);
     }
-    if (!throughItself.empty())
-        WriteItself(destination, throughItself, change);
-    destination.SetProperties(others, &change);
-}
 
-void WriteUnlessReadOnly(Style* destination, const PropertyPaths& paths, const Style& change)
-{
-    if (destination != nullptr && !IsReadOnly(*destination))
-        Write(*destination, paths, change);
-}
+    /// Null is passed over, and so is a style that may not be edited.
+    void WriteTo(Style* destination)
+    {
+        if (destination == nullptr || IsReadOnly(*destination))
+            return;
+        SplitFor(destination->GetCategoryName());
+        if (!throughItself.empty())
+            WriteItself(*destination, throughItself, change);
+        if (!others.empty())
+            destination->SetProperties(others, &change);
+    }
+
+private:
+    /// Most destinations are of the category of the one before.
+    void SplitFor(const Styles::PropertyKey& destinationCategory)
+    {
+        if (category == destinationCategory)
+            return;
+        category = destinationCategory;
+        throughItself.clear();
+        others.clear();
+        for (const PropertyPath& path : paths)
+        {
+            const bool isItself = !path.empty() && path.front() == destinationCategory;
+            (isItself ? throughItself : others).push_back(path);
+        }
+    }
+
+    const PropertyPaths& paths;
+    const Style& change;
+    std::optional<Styles::PropertyKey> category; ///< That the paths are split for; none at first.
+    PropertyPaths throughItself;                 ///< Those that lead through that category.
+    PropertyPaths others;
+};
 
 /// The part of an object's style that a change of one category concerns: where the targets are substyles, so
 /// is what they override.
@@ -73,6 +99,19 @@ Style* FindOverridden(Style* objectStyle, const Style& change)
     return isWhole && change.GetCategoryName() != Styles::PropertyKey::Empty
                ? Styles::GetStyleOrSubstyle(objectStyle, change.GetCategoryName(), true)
                : objectStyle;
+}
+
+void WriteOverrides(const std::vector<Style*>& targets, const std::map<Style*, std::size_t>& objects,
+                    const PropertyPaths& paths, const Style& change)
+{
+    ChangeWriter writer(paths, change);
+    if (objects.empty())
+    {
+        for (Style* const target : targets)
+            writer.WriteTo(target);
+    }
+    for (const auto& [objectStyle, object] : objects)
+        writer.WriteTo(FindOverridden(objectStyle, change));
 }
 
 } // namespace
@@ -105,18 +144,11 @@ void DocumentStyleModifier::Modify(const std::vector<Style*>& targets,
         return;
 
     const History::Step step(history, Framework::Resources::GetString(L"history.edit"));
+    ChangeWriter writer(paths, *changeStyle);
     for (Style* const target : targets)
-        WriteUnlessReadOnly(target, paths, *changeStyle);
-    if (objects.empty())
-    {
-        for (Style* const target : targets)
-            WriteUnlessReadOnly(target, overridePaths, *changeStyle);
-    }
-    else if (!overridePaths.empty())
-    {
-        for (const auto& [objectStyle, object] : objects)
-            WriteUnlessReadOnly(FindOverridden(objectStyle, *changeStyle), overridePaths, *changeStyle);
-    }
+        writer.WriteTo(target);
+    if (!overridePaths.empty())
+        WriteOverrides(targets, objects, overridePaths, *changeStyle);
     if (!bound || transactionOverrides == nullptr)
         return;
     transactionOverrides->Add(paths);

@@ -21,8 +21,7 @@ public:
     /// Waits until nobody else holds the folder, which exists. The lock is a file in it, which stays.
     ///
     /// @throws DocumentError when the folder cannot be locked exclusively. What cannot be locked can still be
-    /// read:
-    ///         a shared lock is none then.
+    ///         read: a shared lock is none then.
     FolderLock(const std::filesystem::path& folder, LockKind kind);
 
     FolderLock(const FolderLock&) = delete;

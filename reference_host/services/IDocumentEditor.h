@@ -19,8 +19,7 @@ public:
     /// Adds a named style without values, in a step of history.
     ///
     /// @returns the style, owned by the document; null, and nothing happens, when `name` is empty or taken,
-    /// or
-    ///          the document has no such category.
+    ///          or the document has no such category.
     virtual Styles::Style* AddStyle(const Styles::PropertyKey& category, const OvxStringT& name) = 0;
 
     /// Gives a named style another name, in a step of history.

@@ -30,8 +30,7 @@ public:
     /// static objects throw or crash ends that one and not the program.
     ///
     /// @throws ModuleError when there is no such file, it is no library, a symbol is missing, or loading it
-    /// would
-    ///         end the program.
+    ///         would end the program.
     explicit LoadedModule(const std::filesystem::path& libraryFile);
 
     LoadedModule(const LoadedModule&) = delete;

@@ -55,7 +55,10 @@ void MasterShapes::ReadStyles(pugi::xml_node root, std::string_view text, XmlNam
         colours.emplace(OvxUtils::ToUtf8(entry.name), entry.look);
     // What shapes without a parent take has to be in the same catalogue.
     if (const StyleRecord* const standard = data.catalogue.FindOwnNamed(StyleFamily::Graphic, "standard"))
-        catalogue.Add(*standard);
+    {
+        StyleRecord copy = *standard;
+        catalogue.AddUnlessThere(copy);
+    }
     catalogue.AddFallback(data.catalogue);
     StyleReader reader(data.table, colours, catalogue, reports);
     reader.ReadDeclarations(root, names);

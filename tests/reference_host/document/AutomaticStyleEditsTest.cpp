@@ -44,6 +44,23 @@ TEST(SharedAutomaticStyles, AreSplitForTheOneThatDiffers)
     EXPECT_EQ(OwnOf(again.Object(L"1/3")->GetStyle(), "fill.color"), "#ff0000");
 }
 
+TEST(ShapesThatWereOnlyLookedAt, StayAsTheFileSaysWhenAnotherIsEdited)
+{
+    const FlatDrawing drawing =
+        FlatDrawing()
+            .Automatic("paragraph", "style:name='P1'", "<style:paragraph-properties fo:text-align='center'/>")
+            .Automatic("graphic", "style:name='gr1'", kRed)
+            .Automatic("graphic", "style:name='gr2'", "<style:graphic-properties draw:fill='none'/>")
+            .Page("<draw:rect draw:style-name='gr1'/>"
+                  "<draw:rect draw:style-name='gr2' draw:text-style-name='P1'/>");
+    OpenedDrawing opened = drawing.Open();
+    ASSERT_EQ(OwnOf(opened.Object(L"1/2")->GetStyle(), "paragraph.align"), "center");
+
+    Set(opened.Object(L"1/1")->GetStyle(), "fill.color", ColourValue(0, 0, 255));
+
+    EXPECT_EQ(Difference(drawing.Text(), Saved(opened)), "ff0000 -> 0000ff");
+}
+
 TEST(SharedAutomaticStyles, AreSplitOnceForAllThatWantTheSame)
 {
     OpenedDrawing opened = ThreeShared().Open();

@@ -12,6 +12,7 @@
 
 using ReferenceHost::Drawing;
 using ReferenceHost::OverwriteRefusal;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::UnorderedElementsAre;
 
@@ -179,6 +180,23 @@ TEST_F(SavingOver, ReplacesWhatASymbolicLinkLeadsTo)
     EXPECT_EQ(RefusalOf(link), "");
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(BytesOf(file), Current());
+}
+
+TEST_F(SavingOver, TellsOfLinksThatLeadNowhere)
+{
+    const fs::path link = folder.GetPath() / "link.fodg";
+    fs::create_symlink("other.fodg", link);
+    fs::create_symlink("link.fodg", folder.GetPath() / "other.fodg");
+
+    try
+    {
+        Save(link);
+        FAIL() << "saved through links that lead to each other";
+    }
+    catch (const ReferenceHost::DocumentError& error)
+    {
+        EXPECT_THAT(error.what(), AllOf(HasSubstr("cannot be saved"), HasSubstr("link.fodg")));
+    }
 }
 
 TEST_F(SavingOver, IsNotHurtByWhatAnEndedProgramHasLeft)
