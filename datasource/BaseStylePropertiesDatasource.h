@@ -386,7 +386,6 @@ protected:
     /// Adds to the forced paths what lies under `path` in `paths`, relative to `path`. When `paths` holds
     /// `path` itself or a prefix of it, everything is forced: the empty path is added and nothing else.
     void ImportForceAmbiguous(const Styles::PropertyPath& path, const std::set<Styles::PropertyPath>& paths);
-
     /// The same with the path of one key.
     void ImportForceAmbiguous(const Styles::PropertyKey& key, const std::set<Styles::PropertyPath>& paths);
 
@@ -426,11 +425,13 @@ private:
     struct PendingWrite;
 
     [[nodiscard]] bool HasParent() const;
+    [[nodiscard]] bool DoesOverrideAny(Styles::Style* style, const Styles::PropertyPaths& paths) const;
     [[nodiscard]] bool GetEnableStyleEditingInternal(const Styles::PropertyKey& category) const;
     [[nodiscard]] bool ShouldIgnoreCharacterStyleSiblings() const;
     [[nodiscard]] OvxStringT GetStyleNameBasedOnHeirarchy(Styles::Style* style) const;
     [[nodiscard]] Styles::Style* GetFirstTarget() const;
     [[nodiscard]] Styles::Style* GetCategoryStyle(Styles::Style* target) const;
+    [[nodiscard]] Styles::Style* FollowApplicatorPath(std::size_t index) const;
     [[nodiscard]] bool TakesPartAsSibling(const BaseStylePropertiesDatasource* sibling) const;
     [[nodiscard]] OvxStringT MakeSectionTitle(const OvxStringT& categoryDisplayName) const;
     void GatherIntoGroup(const PendingWrite& write) const;

@@ -55,6 +55,8 @@ bool BeginsWith(const PropertyPath& path, const PropertyPath& prefix)
 /// Tests `path` and then each shorter prefix down to the empty path.
 bool ContainsPathOrPrefix(const std::set<PropertyPath>& paths, PropertyPath path)
 {
+    if (paths.empty())
+        return false;
     while (!paths.contains(path))
     {
         if (path.empty())
@@ -68,15 +70,15 @@ bool ContainsPathOrPrefix(const std::set<PropertyPath>& paths, PropertyPath path
 bool HasNothingToInheritFrom(const Style& style)
 {
     const Style* owner = style.GetOwner();
-    return style.GetParent() == nullptr && (owner == nullptr || owner->GetParent() == nullptr);
+    return (owner == nullptr || owner->GetParent() == nullptr) && style.GetParent() == nullptr;
 }
 
-/// The value at `path` below `style`; null when a substyle on the way is missing.
-const Any* FindValue(const Style* style, const PropertyPath& path)
+/// The style that holds the value at `path` below `style`; null when a substyle on the way is missing.
+const Style* FindHolder(const Style* style, const PropertyPath& path)
 {
     for (std::size_t index = 0; style != nullptr && index + 1 < path.size(); ++index)
         style = style->GetSubstyle(path[index], true);
-    return style == nullptr ? nullptr : &style->GetProperty(path.back());
+    return style;
 }
 
 /// Empty substyles do not make a style override anything; they are left out of a copy.
@@ -131,12 +133,13 @@ bool BaseStylePropertiesDatasource::IsAmbiguous(const PropertyPath& path) const
     Any reference;
     for (std::size_t index = 0; index < GetNumTargetStyles(); ++index)
     {
-        const Any* value = FindValue(GetTargetStyle(index), path);
-        if (value == nullptr)
+        const Style* style = FindHolder(GetTargetStyle(index), path);
+        if (style == nullptr)
             continue;
+        const Any& value = style->GetProperty(path.back());
         if (reference.IsEmpty())
-            reference = *value;
-        else if (reference.GetType() != value->GetType() || !(reference == *value))
+            reference = value;
+        else if (!(reference == value))
             return true;
     }
     return false;
@@ -193,7 +196,11 @@ bool BaseStylePropertiesDatasource::DoesOverrideProperty(Style* style, const Pro
 
 bool BaseStylePropertiesDatasource::DoesOverrideProperties(Style* style, const OvxStringT& identifier) const
 {
-    const PropertyPaths paths = ParseActivePaths(identifier, /*dropWildcard=*/false);
+    return DoesOverrideAny(style, ParseActivePaths(identifier, /*dropWildcard=*/false));
+}
+
+bool BaseStylePropertiesDatasource::DoesOverrideAny(Style* style, const PropertyPaths& paths) const
+{
     return std::any_of(paths.begin(), paths.end(),
                        [&](const PropertyPath& path) { return DoesOverrideProperty(style, path); });
 }
@@ -205,9 +212,10 @@ ActivePropertyState BaseStylePropertiesDatasource::GetActivePropertyState(const 
 
     // For the whole style, further targets are asked the cheaper question of properties of their own.
     const bool isWholeStyle = identifier == L"style";
+    const PropertyPaths paths =
+        isWholeStyle ? PropertyPaths() : ParseActivePaths(identifier, /*dropWildcard=*/false);
     Style* first = GetCategoryStyle(GetFirstTarget());
-    const bool overrides =
-        isWholeStyle ? DoesWholeStyleOverride(first) : DoesOverrideProperties(first, identifier);
+    const bool overrides = isWholeStyle ? DoesWholeStyleOverride(first) : DoesOverrideAny(first, paths);
 
     for (std::size_t index = 1; index < targetStyles.size(); ++index)
     {
@@ -216,7 +224,7 @@ ActivePropertyState BaseStylePropertiesDatasource::GetActivePropertyState(const 
             return ActivePropertyState::AmbiguousParent;
 
         const bool furtherOverrides =
-            isWholeStyle ? further->GetOwnPropertyCount() != 0 : DoesOverrideProperties(further, identifier);
+            isWholeStyle ? further->GetOwnPropertyCount() != 0 : DoesOverrideAny(further, paths);
         if (furtherOverrides != overrides)
             return ActivePropertyState::Ambiguous;
     }

@@ -41,20 +41,21 @@ OvxStringT ParentNameOf(const Style* style, const StyleSheet& sheet)
     return style == nullptr ? OvxStringT() : sheet.GetStyleName(style->GetParent());
 }
 
-/// Whether `style` may become the parent of `target`: what is the parent already may stay so, and what
-/// inherits from the target would close a cycle.
-bool IsOffered(const Style* style, Style* target)
-{
-    if (style == nullptr || style == target)
-        return false;
-    const std::array<Style*, 1> one{target};
-    return style == target->GetParent() || !style->HasParentalDependency(one);
-}
-
+/// The names of the styles that may become the parent of `target`: what is the parent already may stay so,
+/// and what inherits from the target would close a cycle.
 std::vector<OvxStringT> OfferedNames(const StyleSheet& sheet, const PropertyKey& category, Style* target)
 {
+    const Style* const parent = target->GetParent();
+    const std::array<Style*, 1> one{target};
     std::vector<OvxStringT> names = sheet.GetStyleNames(category);
-    std::erase_if(names, [&](const OvxStringT& name) { return !IsOffered(sheet.GetStyle(name), target); });
+    std::erase_if(names,
+                  [&](const OvxStringT& name)
+                  {
+                      const Style* const style = sheet.GetStyle(name);
+                      const bool isOffered = style != nullptr && style != target &&
+                                             (style == parent || !style->HasParentalDependency(one));
+                      return !isOffered;
+                  });
     return names;
 }
 
@@ -65,73 +66,87 @@ OvxStringT Escaped(OvxStringT name)
     return name;
 }
 
-/// An entry of a list, whose attributes are written in the order of the calls.
-class ListEntry
+/// Tells whether `text` is the escaped form of `name`. A long list asks this of each of its names and makes
+/// no texts for it.
+bool IsEscapedForm(const OvxStringT& text, const OvxStringT& name)
+{
+    const auto hasAmpersand = [&name] { return name.Wide().find(L'&') != std::wstring::npos; };
+    if (text.size() > name.size())
+        return hasAmpersand() && Escaped(name).Compare(text) == 0;
+    return name == text && !hasAmpersand();
+}
+
+/// Writes entries to a list. The addresses of their attributes are made once for all of them.
+class ListWriter
 {
 public:
-    explicit ListEntry(WXmlNode& list) : node(list.CreateChild(L"itemData"))
+    explicit ListWriter(WXmlNode& listNode) : list(listNode) {}
+
+    // Here the name stands before the text, in all other entries behind it. Deliberate: this is the format.
+    void AddNoStyle(OvxStringViewT textKey, bool isChecked)
     {
-        SetString(L"@type", L"statusText");
+        Begin();
+        entry.Attribute(name).SetString({}, {});
+        entry.Attribute(text).SetString(Framework::Resources::GetString(textKey), {});
+        entry.Attribute(check).SetBool(isChecked);
+        Enable();
+        entry.Attribute(id).SetInt(0);
     }
 
-    void SetString(const wchar_t* address, const OvxStringT& value)
+    void AddStyle(const OvxStringT& shown, bool isChecked, std::int32_t number)
     {
-        node.Attribute(address).SetString(value, OvxStringT());
+        Begin(shown);
+        entry.Attribute(check).SetBool(isChecked);
+        Enable();
+        entry.Attribute(id).SetInt(number);
     }
 
-    void SetCheck(bool isChecked) { node.Attribute(L"@check").SetBool(isChecked); }
-
-    /// What every entry that applies a style has.
-    void SetEnabled()
+    void AddMoreStyles(const OvxStringT& shown, std::int32_t number)
     {
-        node.Attribute(L"@enable").SetBool(true);
-        SetString(L"@guid", {});
+        Begin(shown);
+        entry.Attribute(id).SetInt(number);
     }
 
-    void SetId(std::int32_t id) { node.Attribute(L"@placeholderCommandID").SetInt(id); }
+    void AddOverflow(const OvxStringT& shown, std::int32_t number)
+    {
+        Begin(shown);
+        Enable();
+        entry.Attribute(id).SetInt(number);
+    }
 
 private:
-    WXmlNode node;
+    void Begin()
+    {
+        entry = list.CreateChild(itemData);
+        entry.Attribute(type).SetString(statusText, {});
+    }
+
+    void Begin(const OvxStringT& shown)
+    {
+        Begin();
+        entry.Attribute(text).SetString(shown, {});
+        entry.Attribute(name).SetString(shown, {});
+    }
+
+    /// What every entry that applies a style has.
+    void Enable()
+    {
+        entry.Attribute(enable).SetBool(true);
+        entry.Attribute(guid).SetString({}, {});
+    }
+
+    WXmlNode& list;
+    WXmlNode entry; ///< The one being written.
+    const OvxStringT itemData = L"itemData";
+    const OvxStringT type = L"@type";
+    const OvxStringT statusText = L"statusText";
+    const OvxStringT text = L"@text";
+    const OvxStringT name = L"@styleName";
+    const OvxStringT check = L"@check";
+    const OvxStringT enable = L"@enable";
+    const OvxStringT guid = L"@guid";
+    const OvxStringT id = L"@placeholderCommandID";
 };
-
-// Here the name stands before the text, in all other entries behind it. Deliberate: this is the format.
-void AddNoStyleEntry(WXmlNode& list, OvxStringViewT textKey, bool isChecked)
-{
-    ListEntry entry(list);
-    entry.SetString(L"@styleName", {});
-    entry.SetString(L"@text", Framework::Resources::GetString(textKey));
-    entry.SetCheck(isChecked);
-    entry.SetEnabled();
-    entry.SetId(0);
-}
-
-void AddStyleEntry(WXmlNode& list, const OvxStringT& name, bool isChecked, std::int32_t id)
-{
-    ListEntry entry(list);
-    entry.SetString(L"@text", name);
-    entry.SetString(L"@styleName", name);
-    entry.SetCheck(isChecked);
-    entry.SetEnabled();
-    entry.SetId(id);
-}
-
-void AddMoreStylesEntry(WXmlNode& list, std::int32_t id)
-{
-    const OvxStringT text = Framework::Resources::GetString(kMoreStylesTextKey);
-    ListEntry entry(list);
-    entry.SetString(L"@text", text);
-    entry.SetString(L"@styleName", text);
-    entry.SetId(id);
-}
-
-void AddOverflowEntry(WXmlNode& list, const OvxStringT& name, std::int32_t id)
-{
-    ListEntry entry(list);
-    entry.SetString(L"@text", name);
-    entry.SetString(L"@styleName", name);
-    entry.SetEnabled();
-    entry.SetId(id);
-}
 
 /// Calls `act` with the dialog service and the key of the more-styles dialog of `category`; does nothing for
 /// a category without one.
@@ -170,7 +185,7 @@ WXmlNode BaseStylePropertiesDatasource::GetStyleResourceList()
     {
         const OvxStringT current = ParentNameOf(target, *sheet);
         const std::vector<OvxStringT> names = OfferedNames(*sheet, GetCategory(), target);
-        AddNoStyleEntry(list, styleName.empty() ? kNoStyleTextKey : kNoParentTextKey, current.empty());
+        ListWriter(list).AddNoStyle(styleName.empty() ? kNoStyleTextKey : kNoParentTextKey, current.empty());
         AddStyleEntries(list, names, current);
     }
     before.Keep();
@@ -187,18 +202,18 @@ void BaseStylePropertiesDatasource::AddStyleEntries(WXmlNode& list, const std::v
 
     // Names are shown, kept and compared in their escaped form. Deliberate: a name with an ampersand is never
     // the current one, and picking it finds no style.
+    ListWriter writer(list);
     std::int32_t id = 1;
     for (const OvxStringT& name : names)
     {
-        const OvxStringT escaped = Escaped(name);
-        const bool isCurrent = escaped.Compare(current) == 0;
+        const bool isCurrent = IsEscapedForm(current, name);
         if (id > visibleLimit && !isCurrent)
             continue;
-        AddStyleEntry(list, escaped, isCurrent, id);
+        writer.AddStyle(Escaped(name), isCurrent, id);
         ++id;
     }
     if (overflows)
-        AddMoreStylesEntry(list, id);
+        writer.AddMoreStyles(Framework::Resources::GetString(kMoreStylesTextKey), id);
 }
 
 WXmlNode BaseStylePropertiesDatasource::GetNewStyleList()
@@ -220,6 +235,7 @@ WXmlNode BaseStylePropertiesDatasource::GetNewStyleList()
 // The numbers go on where those of the main list end, so that ids of both are one range.
 void BaseStylePropertiesDatasource::AddOverflowEntries(WXmlNode& list, const StyleSheet& sheet)
 {
+    ListWriter writer(list);
     OvxStringT current;
     std::int32_t counter = 0;
     for (const OvxStringT& name : sheet.GetStyleNames(GetCategory()))
@@ -234,7 +250,7 @@ void BaseStylePropertiesDatasource::AddOverflowEntries(WXmlNode& list, const Sty
         if (name == current)
             continue;
         if (counter >= visibleLimit)
-            AddOverflowEntry(list, name, counter);
+            writer.AddOverflow(name, counter);
         ++counter;
     }
 }

@@ -106,6 +106,12 @@ void BaseStylePropertiesDatasource::MergeSiblingTargets()
         targetStyles.clear();
         if (!isDefaultStyles)
             targetStyles = ownStyles;
+        // Room for all at once: a list that grows as it is filled is copied more often the more targets there
+        // are.
+        std::size_t further = 0;
+        for (const SiblingEntry& entry : siblings)
+            further += entry.sibling == nullptr ? 0 : entry.sibling->targetStyles.size();
+        targetStyles.reserve(targetStyles.size() + further);
         for (std::size_t index = 0; index < siblings.size(); ++index)
         {
             const BaseStylePropertiesDatasource* sibling = siblings[index].sibling;
@@ -168,9 +174,13 @@ Style* BaseStylePropertiesDatasource::GetTargetStyle(std::size_t index) const
     if (index >= targetStyles.size())
         return nullptr;
 
-    PropertyPath path;
-    if (styleApplicator != nullptr)
-        path = styleApplicator->GetTargetPath(styleApplicatorID);
+    return styleApplicator == nullptr ? GetStyleOrSubstyle(targetStyles[index], GetCategory(), true)
+                                      : FollowApplicatorPath(index);
+}
+
+Style* BaseStylePropertiesDatasource::FollowApplicatorPath(std::size_t index) const
+{
+    const PropertyPath path = styleApplicator->GetTargetPath(styleApplicatorID);
     if (path.empty())
         return GetStyleOrSubstyle(targetStyles[index], GetCategory(), true);
 

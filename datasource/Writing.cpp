@@ -122,16 +122,23 @@ struct RoutedChange
 
 /// Climbs each target in place. The objects are looked up by the targets as they were; where two climb to one
 /// style, the first counts.
+///
+/// Targets that come in the order of their objects, as those of a document that was just opened mostly do,
+/// are found and kept without a search.
 void ClimbTargets(RoutedChange& change, const std::map<Style*, std::size_t>& objectStyles)
 {
+    auto expected = objectStyles.begin();
     for (Style*& target : change.targets)
     {
         if (target == nullptr)
             continue;
-        const auto object = objectStyles.find(target);
+        const bool isExpected = expected != objectStyles.end() && expected->first == target;
+        const auto object = isExpected ? expected : objectStyles.find(target);
         target = ClimbToWholeStyle(target);
-        if (object != objectStyles.end())
-            change.objects.emplace(target, object->second);
+        if (object == objectStyles.end())
+            continue;
+        change.objects.emplace_hint(change.objects.end(), target, object->second);
+        expected = std::next(object);
     }
 }
 

@@ -21,8 +21,7 @@ public:
     /// Writes every property that `values` itself sets to the targets. A null `values` does nothing.
     ///
     /// @param overridePaths what is to be written as overrides of the selected objects; may be null. It is
-    /// not the
-    ///                      list of written paths: those come from `values`.
+    ///                      not the list of written paths: those come from `values`.
     virtual void ModifyStyles(std::unique_ptr<Styles::Style> values,
                               const Styles::PropertyPaths* overridePaths) const = 0;
 

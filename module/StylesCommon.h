@@ -23,8 +23,7 @@ public:
     /// Stores the application, in place of any earlier one.
     ///
     /// @param app borrowed; must stay alive until another takes its place, the instance is released, or the
-    /// process
-    ///            ends. Null takes the application away.
+    ///            process ends. Null takes the application away.
     /// @returns   true, always.
     virtual bool Initialize(IOrvexCmn_App* app);
 
