@@ -31,8 +31,7 @@ namespace Workbench
 /// Every operation either does all that it was asked or changes nothing. All but the plain getters throw:
 ///
 /// @throws UsageError for a row, panel, style or palette entry that is not there, with those that are, and
-/// for
-///         a value that cannot be read, with what is accepted.
+///         for a value that cannot be read, with what is accepted.
 /// @throws EditError  for what the drawing in its present state does not allow; names the state.
 class Editor
 {

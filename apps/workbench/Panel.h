@@ -25,9 +25,8 @@ public:
     /// source.
     ///
     /// @throws ReferenceHost::ModuleError when the module cannot be loaded, ReferenceHost::DocumentError when
-    /// it
-    ///         was not built for this program, has no such class, takes the name of another one's, cannot be
-    ///         made or does not bind what the description promises.
+    ///         it was not built for this program, has no such class, takes the name of another one's, cannot
+    ///         be made or does not bind what the description promises.
     Panel(PanelDescription itsDescription, ReferenceHost::DataContext& context);
 
     [[nodiscard]] const PanelDescription& GetDescription() const noexcept { return description; }

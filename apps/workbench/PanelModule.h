@@ -14,9 +14,8 @@ class PanelModule
 {
 public:
     /// @throws ReferenceHost::ModuleError when `file` cannot be loaded, ReferenceHost::DocumentError when it
-    /// was built
-    ///         for another version or for none, or registers a class whose name is taken; it is unloaded
-    ///         then.
+    ///         was built for another version or for none, or registers a class whose name is taken; it is
+    ///         unloaded then.
     explicit PanelModule(const std::filesystem::path& file);
 
 private:

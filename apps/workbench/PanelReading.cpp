@@ -7,10 +7,12 @@
 #include "reference_host/document/DocumentError.h"
 #include "reference_host/services/NativePaths.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <typeinfo>
 #include <utility>
+#include <variant>
 
 namespace Workbench
 {
@@ -60,35 +62,51 @@ OvxStringT Ask(IReflectable& panel, OvxStringViewT property, const OvxStringT& i
     return question.Get<ID_CString>().result;
 }
 
-ActivePropertyState ReadState(const IReflectable& panel, const PanelDescription& description,
-                              const RowDescription& row)
+/// A panel with what it has answered already: each answer is a walk over all targets.
+struct AnsweringPanel
+{
+    IReflectable& panel;
+    const PanelDescription& description;
+    const std::vector<PropertyReport>& answered; ///< All its numbers and texts.
+
+    /// The number or text bound to a name.
+    template <class T>
+    [[nodiscard]] T Read(const OvxStringT& name) const
+    {
+        const auto known = std::ranges::find(answered, name, &PropertyReport::name);
+        const T* const value = known == answered.end() ? nullptr : std::get_if<T>(&known->value);
+        return value == nullptr ? panel.Read<T>(name) : *value;
+    }
+};
+
+ActivePropertyState ReadState(const AnsweringPanel& panel, const RowDescription& row)
 {
     const int state = panel.Read<int>(row.property + kStateSuffix);
     if (state < 0 || state >= static_cast<int>(std::size(kStateNames)))
-        Fail(description, row, "the state " + std::to_string(state), "0 to 4");
+        Fail(panel.description, row, "the state " + std::to_string(state), "0 to 4");
     return static_cast<ActivePropertyState>(state);
 }
 
-RowReport ReadRow(IReflectable& panel, const PanelDescription& description, const RowDescription& row)
+RowReport ReadRow(const AnsweringPanel& panel, const RowDescription& row)
 {
-    const auto value = ToReportValue(panel.ReadAny(row.property));
+    const auto value = ToReportValue(panel.panel.ReadAny(row.property));
     if (!value)
-        Fail(description, row, "a value of an unknown type", "a colour, number, choice or text");
+        Fail(panel.description, row, "a value of an unknown type", "a colour, number, choice or text");
     const OvxStringT originText = panel.Read<OvxStringT>(row.property + kOriginSuffix);
     const auto origin = ParseOrigin(originText);
     if (!origin)
-        Fail(description, row, "the origin \"" + OvxUtils::ToUtf8(originText) + "\"",
+        Fail(panel.description, row, "the origin \"" + OvxUtils::ToUtf8(originText) + "\"",
              "\"local\", \"style:NAME\", \"default\" or nothing");
     RowReport report;
     report.description = &row;
     report.isAmbiguous = panel.Read<int>(row.property + kAmbiguousSuffix) != 0;
     if (!report.isAmbiguous)
         report.value = *value;
-    report.state = ReadState(panel, description, row);
+    report.state = ReadState(panel, row);
     report.origin = *origin;
     report.link = panel.Read<OvxStringT>(row.property + kLinkSuffix);
-    report.image = Ask(panel, L"PropertyIcon", row.identifier);
-    report.tooltip = Ask(panel, L"PropertyTooltip", row.identifier);
+    report.image = Ask(panel.panel, L"PropertyIcon", row.identifier);
+    report.tooltip = Ask(panel.panel, L"PropertyTooltip", row.identifier);
     return report;
 }
 
@@ -154,8 +172,9 @@ PanelReport ReadPanel(IReflectable& panel, const PanelDescription& description, 
     report.isDefaults = handed.isDefaults;
     report.styleName = handed.styleName;
     report.properties = ReadProperties(panel);
+    const AnsweringPanel answering{panel, description, report.properties};
     for (const RowDescription& row : description.rows)
-        report.rows.push_back(ReadRow(panel, description, row));
+        report.rows.push_back(ReadRow(answering, row));
     return report;
 }
 

@@ -38,7 +38,8 @@ struct Targets
     void Add(Style* style, DrawingObject& object)
     {
         styles.push_back(style);
-        objects.emplace(style, reinterpret_cast<std::size_t>(&object));
+        // Styles that were made one after another lie so as a rule, and each goes behind the one before.
+        objects.emplace_hint(objects.end(), style, reinterpret_cast<std::size_t>(&object));
     }
 };
 

@@ -40,7 +40,12 @@ public:
         BoundNames::AddReadOnly<int>(*this, L"PaintState", [this] { return state; });
         BoundNames::AddReadOnly<int>(*this, L"PaintAmbiguous", [this] { return ambiguous; });
         BoundNames::AddReadOnly<OvxStringT>(*this, L"PaintOrigin", [this] { return origin; });
-        BoundNames::AddReadOnly<OvxStringT>(*this, L"PaintLink", [this] { return link; });
+        BoundNames::AddReadOnly<OvxStringT>(*this, L"PaintLink",
+                                            [this]
+                                            {
+                                                ++linkReads;
+                                                return link;
+                                            });
         description.file = "paint.panel.xml";
         description.rows.resize(1);
         description.rows[0].identifier = L"paint";
@@ -73,6 +78,7 @@ public:
     int ambiguous = 0;
     OvxStringT origin;
     OvxStringT link;
+    int linkReads = 0;
     Workbench::PanelDescription description;
 
 private:
@@ -142,6 +148,17 @@ TEST(StateName, IsTheNameOfTheEnumerator)
     EXPECT_EQ(Workbench::StateName(ActivePropertyState::Inherited), L"Inherited");
     EXPECT_EQ(Workbench::StateName(ActivePropertyState::Ambiguous), L"Ambiguous");
     EXPECT_EQ(Workbench::StateName(ActivePropertyState::AmbiguousParent), L"AmbiguousParent");
+}
+
+TEST(PanelRow, IsMadeOfAnswersThatWereGivenOnce)
+{
+    OneRowPanel panel;
+    panel.link = L"Sea";
+
+    const Workbench::RowReport row = panel.Row();
+
+    EXPECT_EQ(row.link, L"Sea");
+    EXPECT_EQ(panel.linkReads, 1);
 }
 
 TEST(PanelProperties, AreTheReadableNumbersAndTextsInOrder)
