@@ -6,6 +6,7 @@ readonly TEST_PACKAGES=(libgtest-dev libgmock-dev python3)
 readonly DESKTOP_PACKAGES=(qt6-base-dev qt6-svg-dev qt6-translations-l10n)
 readonly CHECK_PACKAGES=(clang clang-tidy clang-format cppcheck libclang-rt-14-dev)
 readonly FUZZ_PACKAGES=(clang libclang-rt-14-dev)
+readonly BENCH_PACKAGES=(libbenchmark-dev qt6-base-dev libglib2.0-dev valgrind python3 python3-matplotlib)
 readonly COVERAGE_PACKAGES=(gcovr)
 readonly DOCUMENTATION_PACKAGES=(doxygen)
 # What the installed tree and the packages are tried with.

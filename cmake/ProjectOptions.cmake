@@ -35,7 +35,9 @@ function(styleproperties_warnings target)
         # GCC 12 at -O2 takes "literal" + std::string for copies that overlap; GCC 13 no longer does.
         $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>
         # Function-local statics of templates must not pin a module in memory after it was unloaded.
-        $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+        $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>
+        # Calls within a library stay there, as they do with Clang: what is exported may be inlined too.
+        $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
 endfunction()
 
 # Instruments are private: whoever links an instrumented library of ours is built by the same presets.
