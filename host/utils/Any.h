@@ -4,6 +4,7 @@
 
 #include <concepts>
 #include <cstddef>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <new>
@@ -23,13 +24,17 @@ namespace OvxUtils
 {
 
 /// What an Any must know of the type it holds: one table for each type.
+///
+/// Where the bytes of a storage say it all, there is no function: lists of values move them at every
+/// insertion.
 struct AnyOperations
 {
-    const std::type_info* type;                          ///< The held type.
-    void (*copy)(const void* source, void* destination); ///< Copies one storage into a raw one.
-    void (*move)(void* source,
-                 void* destination) noexcept; ///< Moves one storage into a raw one, ending the source.
-    void (*destroy)(void* storage) noexcept;  ///< Ends the value in a storage.
+    const std::type_info* type; ///< The held type.
+    /// Copies one storage into a raw one; null where its bytes are a copy.
+    void (*copy)(const void* source, void* destination);
+    /// Moves one storage into a raw one, ending the source; null where its bytes are the value.
+    void (*move)(void* source, void* destination) noexcept;
+    void (*destroy)(void* storage) noexcept; ///< Ends the value in a storage; null where nothing ends.
     const void* (*get)(const void* storage) noexcept;   ///< The address of the held value.
     bool (*equal)(const void* left, const void* right); ///< `==` of the values in two storages.
     bool (*less)(const void* left, const void* right);  ///< `<` of the values in two storages.
@@ -65,16 +70,14 @@ public:
     /// Holds a copy of what the other holds.
     Any(const Any& other) : operations(other.operations)
     {
-        if (operations != nullptr)
+        if (operations != nullptr && operations->copy != nullptr)
             operations->copy(other.storage, storage);
+        else
+            std::memcpy(storage, other.storage, kInlineSize);
     }
 
     /// Takes what the other holds and leaves it empty.
-    Any(Any&& other) noexcept : operations(std::exchange(other.operations, nullptr))
-    {
-        if (operations != nullptr)
-            operations->move(other.storage, storage);
-    }
+    Any(Any&& other) noexcept : operations(std::exchange(other.operations, nullptr)) { TakeStorage(other); }
 
     /// Holds a copy of what the other holds.
     Any& operator=(const Any& other)
@@ -91,8 +94,7 @@ public:
             return *this;
         Reset();
         operations = std::exchange(other.operations, nullptr);
-        if (operations != nullptr)
-            operations->move(other.storage, storage);
+        TakeStorage(other);
         return *this;
     }
 
@@ -158,9 +160,18 @@ private:
     static constexpr bool kIsInline = sizeof(T) <= kInlineSize &&
                                       alignof(T) <= alignof(void*) && std::is_nothrow_move_constructible_v<T>;
 
+    /// Of an Any whose operations were taken over already.
+    void TakeStorage(Any& other) noexcept
+    {
+        if (operations != nullptr && operations->move != nullptr)
+            operations->move(other.storage, storage);
+        else
+            std::memcpy(storage, other.storage, kInlineSize);
+    }
+
     void Reset() noexcept
     {
-        if (operations != nullptr)
+        if (operations != nullptr && operations->destroy != nullptr)
             operations->destroy(storage);
         operations = nullptr;
     }
@@ -172,52 +183,62 @@ private:
 template <class T>
 const AnyOperations* OperationsOf()
 {
-    using Owner = std::unique_ptr<T>;
     static constexpr bool kInline = Any::kIsInline<T>;
-    using Stored = std::conditional_t<kInline, T, Owner>;
+    using Stored = std::conditional_t<kInline, T, T*>; // What lies on the heap is owned.
     static constexpr auto value = [](const void* storage) noexcept -> const T*
     {
         const auto* stored = std::launder(static_cast<const Stored*>(storage));
         if constexpr (kInline)
             return stored;
         else
-            return stored->get();
+            return *stored;
     };
-    static const AnyOperations table{
-        &typeid(T),
-        [](const void* source, void* destination)
-        {
-            if constexpr (kInline)
-                ::new (destination) T(*value(source));
-            else
-                ::new (destination) Owner(std::make_unique<T>(*value(source)));
-        },
-        [](void* source, void* destination) noexcept
-        {
-            auto* stored = std::launder(static_cast<Stored*>(source));
-            ::new (destination) Stored(std::move(*stored));
+    static constexpr bool kPlain = kInline && std::is_trivially_copyable_v<T>;
+    static constexpr auto copy = [](const void* source, void* destination)
+    {
+        if constexpr (kInline)
+            ::new (destination) T(*value(source));
+        else
+            ::new (destination) Stored(std::make_unique<T>(*value(source)).release());
+    };
+    static constexpr auto move = [](void* source, void* destination) noexcept
+    {
+        auto* stored = std::launder(static_cast<Stored*>(source));
+        ::new (destination) Stored(std::move(*stored));
+        std::destroy_at(stored);
+    };
+    static constexpr auto destroy = [](void* storage) noexcept
+    {
+        auto* stored = std::launder(static_cast<Stored*>(storage));
+        if constexpr (kInline)
             std::destroy_at(stored);
-        },
-        [](void* storage) noexcept { std::destroy_at(std::launder(static_cast<Stored*>(storage))); },
-        [](const void* storage) noexcept -> const void* { return value(storage); },
-        [](const void* left, const void* right) -> bool
-        {
-            if constexpr (std::equality_comparable<T>)
-                return *value(left) == *value(right);
-            else
-                return left == right;
-        },
-        [](const void* left, const void* right) -> bool
-        {
-            if constexpr (requires(const T& a, const T& b) {
-                              {
-                                  a < b
-                                  } -> std::convertible_to<bool>;
-                          })
-                return *value(left) < *value(right);
-            else
-                return std::less<const void*>()(left, right);
-        }};
+        else
+            std::default_delete<T>()(*stored);
+    };
+    static const AnyOperations table{&typeid(T),
+                                     kPlain ? nullptr : +copy,
+                                     kPlain || !kInline ? nullptr : +move,
+                                     kPlain ? nullptr : +destroy,
+                                     [](const void* storage) noexcept -> const void*
+                                     { return value(storage); },
+                                     [](const void* left, const void* right) -> bool
+                                     {
+                                         if constexpr (std::equality_comparable<T>)
+                                             return *value(left) == *value(right);
+                                         else
+                                             return left == right;
+                                     },
+                                     [](const void* left, const void* right) -> bool
+                                     {
+                                         if constexpr (requires(const T& a, const T& b) {
+                                                           {
+                                                               a < b
+                                                               } -> std::convertible_to<bool>;
+                                                       })
+                                             return *value(left) < *value(right);
+                                         else
+                                             return std::less<const void*>()(left, right);
+                                     }};
     return &table;
 }
 
@@ -232,8 +253,7 @@ requires(!std::same_as<std::remove_cvref_t<T>, Any> &&
     if constexpr (kIsInline<Held>)
         ::new (static_cast<void*>(storage)) Held(std::forward<T>(value));
     else
-        ::new (static_cast<void*>(storage))
-            std::unique_ptr<Held>(std::make_unique<Held>(std::forward<T>(value)));
+        ::new (static_cast<void*>(storage)) Held*(std::make_unique<Held>(std::forward<T>(value)).release());
     operations = OperationsOf<Held>();
 }
 
