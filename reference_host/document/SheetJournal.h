@@ -22,6 +22,12 @@ public:
     /// Tells whether a change was ever told, also one that was undone since.
     [[nodiscard]] bool HasHeard() const noexcept { return hasHeard; }
 
+    void BeforeStoring(Styles::StyleData& data, const Styles::PropertyKey& key) override
+    {
+        hasHeard = true;
+        journal.BeforeStoring(data, key);
+    }
+
     void BeforeChange(Styles::StyleData& data) override
     {
         hasHeard = true;

@@ -89,18 +89,10 @@ bool ConcernsText(const PropertyMappings& table, PropertyKey category)
 void AddSubstyle(WholeChange& change, const StyleImage& image, const PropertyMappings& table)
 {
     const StyleData& now = image.GetStyle();
-    std::set<PropertyKey> keys;
-    for (const Styles::OwnProperty& property : image.GetValues())
-        keys.insert(property.key);
-    for (const Styles::OwnProperty& property : now.properties)
-        keys.insert(property.key);
-    for (const PropertyKey& key : keys)
+    for (const PropertyKey& key : image.FindChangedKeys())
     {
         const OvxUtils::Any* const before = image.Find(key);
-        const OvxUtils::Any* const after = now.FindOwn(key);
-        const bool isSame =
-            (before == nullptr) == (after == nullptr) && (before == nullptr || *before == *after);
-        if (!isSame && ConcernsText(table, now.name, key))
+        if (ConcernsText(table, now.name, key))
             change.values.push_back({now.name, key, before == nullptr ? OvxUtils::Any() : *before});
     }
     if (now.GetParent() != image.GetParent() && ConcernsText(table, now.name))

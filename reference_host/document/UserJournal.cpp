@@ -7,6 +7,12 @@
 namespace ReferenceHost
 {
 
+void UserJournal::BeforeStoring(Styles::StyleData& data, const Styles::PropertyKey& key)
+{
+    MarkUser(data);
+    next->BeforeStoring(data, key);
+}
+
 void UserJournal::BeforeChange(Styles::StyleData& data)
 {
     MarkUser(data);

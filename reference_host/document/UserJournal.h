@@ -25,6 +25,7 @@ public:
     /// This, where there is a journal to pass things on to; else null.
     [[nodiscard]] IStyleJournal* GetIfUsed() noexcept { return next == nullptr ? nullptr : this; }
 
+    void BeforeStoring(Styles::StyleData& data, const Styles::PropertyKey& key) override;
     void BeforeChange(Styles::StyleData& data) override;
     void BeforePlacing(Styles::Style& owner, const Styles::PropertyKey& key) override;
     void TakeRemoved(Styles::Style& owner, const Styles::PropertyKey& key,

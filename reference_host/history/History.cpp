@@ -158,6 +158,11 @@ void History::Perform(std::unique_ptr<IDocumentChange> change)
     NeedChanges().Perform(std::move(change));
 }
 
+void History::BeforeStoring(Styles::StyleData& data, const Styles::PropertyKey& key)
+{
+    NeedChanges().KeepValue(data, key);
+}
+
 void History::BeforeChange(Styles::StyleData& data)
 {
     NeedChanges().KeepStyle(data);

@@ -128,8 +128,8 @@ public:
     /// Makes a change beside the values of styles, as part of the step that is open.
     void Perform(std::unique_ptr<IDocumentChange> change);
 
+    void BeforeStoring(Styles::StyleData& data, const Styles::PropertyKey& key) override;
     void BeforeChange(Styles::StyleData& data) override;
-
     void BeforePlacing(Styles::Style& owner, const Styles::PropertyKey& key) override;
     void TakeRemoved(Styles::Style& owner, const Styles::PropertyKey& key,
                      std::unique_ptr<Styles::Style>& removed) override;

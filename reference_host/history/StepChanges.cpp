@@ -23,13 +23,14 @@ bool IsPartOfAny(const StyleData& style, std::span<Style* const> wholes)
 
 } // namespace
 
+void StepChanges::KeepValue(StyleData& style, const Styles::PropertyKey& key)
+{
+    NeedImage(style).KeepValue(key);
+}
+
 void StepChanges::KeepStyle(StyleData& style)
 {
-    if (index.Find(images, style) != images.size())
-        return;
-    index.MakeRoom(images, 1);
-    images.emplace_back(style);
-    index.AddLast(images);
+    NeedImage(style).KeepAll();
 }
 
 void StepChanges::KeepFreePlace(Style& owner, const Styles::PropertyKey& key)
@@ -78,8 +79,19 @@ void StepChanges::TakeOver(StepChanges& part)
     index.MakeRoom(images, part.images.size());
     for (StyleImage& image : part.images)
     {
-        if (index.Find(images, image.GetStyle()) != images.size())
+        const std::size_t known = index.Find(images, image.GetStyle());
+        if (known != images.size())
+            images[known].MakeRoom(image);
+    }
+    // From here on nothing fails.
+    for (StyleImage& image : part.images)
+    {
+        const std::size_t known = index.Find(images, image.GetStyle());
+        if (known != images.size())
+        {
+            images[known].TakeOver(image);
             continue;
+        }
         images.push_back(std::move(image));
         index.AddLast(images);
     }
@@ -133,6 +145,17 @@ void StepChanges::Redo()
     for (const auto& change : changes)
         change->Redo();
     ExchangeAll();
+}
+
+StyleImage& StepChanges::NeedImage(StyleData& style)
+{
+    const std::size_t known = index.Find(images, style);
+    if (known != images.size())
+        return images[known];
+    index.MakeRoom(images, 1);
+    images.emplace_back(style);
+    index.AddLast(images);
+    return images.back();
 }
 
 void StepChanges::ExchangeAll()

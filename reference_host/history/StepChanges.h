@@ -18,9 +18,9 @@ namespace ReferenceHost
 
 /// What changed since one moment, as it was at that moment.
 ///
-/// Of each style, and of each name of a substyle, the first image alone is kept: what is kept grows with the
-/// number of styles that changed, not with how often they did. Images say nothing about one another, so they
-/// are put back in any order; the changes beside them are taken back in reverse.
+/// Of each value of a style, and of each name of a substyle, what was there first is kept alone: what is kept
+/// grows with the number of values that changed, not with how often they did. Images say nothing about one
+/// another, so they are put back in any order; the changes beside them are taken back in reverse.
 class StepChanges
 {
 public:
@@ -32,6 +32,10 @@ public:
 
     // Recording before it happens
 
+    /// The own value of one property of a style may change.
+    void KeepValue(Styles::StyleData& style, const Styles::PropertyKey& key);
+
+    /// Anything may change of a style but its substyles.
     void KeepStyle(Styles::StyleData& style);
 
     /// Nothing stands under `key` of `owner`, and something will.
@@ -73,6 +77,7 @@ private:
     /// Places are ordered by their owners.
     using Place = std::pair<const Styles::StyleData*, Styles::PropertyKey>;
 
+    [[nodiscard]] StyleImage& NeedImage(Styles::StyleData& style);
     void ExchangeAll();
     void Forget(const Styles::Style& destroyed);
 

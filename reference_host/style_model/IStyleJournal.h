@@ -14,6 +14,9 @@ namespace ReferenceHost
 class IStyleJournal
 {
 public:
+    /// The own value of one property of `data` changes now; it may be set, changed or removed.
+    virtual void BeforeStoring(Styles::StyleData& data, const Styles::PropertyKey& key) = 0;
+
     /// The own values, the parent, the category or the default style of `data` may change now.
     virtual void BeforeChange(Styles::StyleData& data) = 0;
 

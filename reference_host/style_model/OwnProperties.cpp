@@ -12,14 +12,6 @@ namespace
 /// Most styles are written once: room for a few more is enough.
 constexpr std::size_t kSpareRoom = 2;
 
-template <class Entries>
-auto FindPlace(Entries& entries, const PropertyKey& key) noexcept
-{
-    return std::lower_bound(entries.begin(), entries.end(), key,
-                            [](const OwnProperty& entry, const PropertyKey& sought)
-                            { return entry.key < sought; });
-}
-
 /// As std::popcount, which calls a function where the processor is not known to count bits itself.
 std::size_t CountBits(std::uint64_t bits) noexcept
 {
@@ -33,40 +25,87 @@ std::size_t CountBits(std::uint64_t bits) noexcept
 
 const OvxUtils::Any* OwnProperties::Search(const PropertyKey& key) const noexcept
 {
-    if (firstAddress != kFarFromAll)
-    {
-        const std::uint64_t before = present & ((std::uint64_t{1} << DistanceFromFirst(key)) - 1);
-        return &entries[CountBits(before)].value;
-    }
-    const auto place = FindPlace(entries, key);
-    return place != entries.end() && place->key == key ? &place->value : nullptr;
+    const Place place = FindPlace(key);
+    return place.isSet ? &entries[static_cast<std::size_t>(place.index)].value : nullptr;
 }
 
 void OwnProperties::Set(const PropertyKey& key, OvxUtils::Any value)
 {
-    const auto place = FindPlace(entries, key);
-    if (place != entries.end() && place->key == key)
+    const Place place = FindPlace(key);
+    if (place.isSet)
     {
-        place->value = std::move(value);
+        entries[static_cast<std::size_t>(place.index)].value = std::move(value);
         return;
     }
-
-    const auto index = place - entries.begin();
     if (entries.size() == entries.capacity())
         entries.reserve(entries.size() + entries.size() / 2 + kSpareRoom);
-    entries.insert(entries.begin() + index, OwnProperty{key, std::move(value)});
-    Index();
+    Insert(place.index, key, std::move(value));
+}
+
+OwnProperties OwnProperties::CopyWithRoom() const
+{
+    OwnProperties copy;
+    copy.entries.reserve(entries.capacity());
+    copy.entries.assign(entries.begin(), entries.end());
+    copy.present = present;
+    copy.firstAddress = firstAddress;
+    return copy;
 }
 
 void OwnProperties::Remove(const PropertyKey& key) noexcept
 {
-    const auto place = FindPlace(entries, key);
-    if (place == entries.end() || place->key != key)
-        return;
-    entries.erase(place);
-    Index();
+    const Place place = FindPlace(key);
+    if (place.isSet)
+        Erase(place.index);
 }
 
+void OwnProperties::Exchange(const PropertyKey& key, OvxUtils::Any& value) noexcept
+{
+    const Place place = FindPlace(key);
+    if (!place.isSet)
+    {
+        if (!value.IsEmpty())
+            Insert(place.index, key, std::move(value));
+        return;
+    }
+    std::swap(entries[static_cast<std::size_t>(place.index)].value, value);
+    if (entries[static_cast<std::size_t>(place.index)].value.IsEmpty())
+        Erase(place.index);
+}
+
+OwnProperties::Place OwnProperties::FindPlace(const PropertyKey& key) const noexcept
+{
+    const std::uintptr_t distance = DistanceFromFirst(key);
+    if (distance < kBits)
+    {
+        const std::uint64_t bit = std::uint64_t{1} << distance;
+        return {static_cast<std::ptrdiff_t>(CountBits(present & (bit - 1))), (present & bit) != 0};
+    }
+    const auto place = std::ranges::lower_bound(entries, key, {}, &OwnProperty::key);
+    return {place - entries.begin(), place != entries.end() && place->key == key};
+}
+
+void OwnProperties::Insert(std::ptrdiff_t index, const PropertyKey& key, OvxUtils::Any value)
+{
+    entries.insert(entries.begin() + index, OwnProperty{key, std::move(value)});
+    const std::uintptr_t distance = DistanceFromFirst(key);
+    if (distance < kBits)
+        present |= std::uint64_t{1} << distance;
+    else
+        Index();
+}
+
+void OwnProperties::Erase(std::ptrdiff_t index) noexcept
+{
+    const std::uintptr_t distance = DistanceFromFirst(entries[static_cast<std::size_t>(index)].key);
+    entries.erase(entries.begin() + index);
+    if (index != 0 && distance < kBits)
+        present &= ~(std::uint64_t{1} << distance);
+    else
+        Index();
+}
+
+/// Of what is there; where keys are scattered, removing one may bring the others together.
 void OwnProperties::Index() noexcept
 {
     present = 0;

@@ -82,8 +82,18 @@ public:
     /// Sets a property to a value that is not empty.
     void Set(const PropertyKey& key, OvxUtils::Any value);
 
-    /// Removes a property; does nothing when it is not set.
+    /// Removes a property; does nothing when it is not set. Its room stays.
     void Remove(const PropertyKey& key) noexcept;
+
+    /// Changes the value of a property for another; an empty one stands for none. A property that is set by
+    /// it must have room.
+    void Exchange(const PropertyKey& key, OvxUtils::Any& value) noexcept;
+
+    /// A copy with as much room as this has.
+    [[nodiscard]] OwnProperties CopyWithRoom() const;
+
+    /// Makes room for `further` more than there is room for.
+    void AddRoom(std::size_t further) { entries.reserve(entries.capacity() + further); }
 
     [[nodiscard]] const OwnProperty& operator[](std::size_t index) const { return entries[index]; }
 
@@ -113,6 +123,16 @@ private:
         return (AddressOf(key) - firstAddress) / sizeof(StringPool::Text);
     }
 
+    /// Where a property is, or would be put.
+    struct Place
+    {
+        std::ptrdiff_t index;
+        bool isSet;
+    };
+
+    [[nodiscard]] Place FindPlace(const PropertyKey& key) const noexcept;
+    void Insert(std::ptrdiff_t index, const PropertyKey& key, OvxUtils::Any value);
+    void Erase(std::ptrdiff_t index) noexcept;
     void Index() noexcept;
 
     std::uint64_t present = 0; ///< A bit for each key, by its distance from the first; none while scattered.

@@ -61,7 +61,8 @@ void StyleData::Store(const PropertyKey& key, OvxUtils::Any value)
     if (value.IsEmpty() && FindOwn(key) == nullptr)
         return;
 
-    TellJournal();
+    if (ReferenceHost::IStyleJournal* const journal = FindJournal())
+        journal->BeforeStoring(*this, key);
     if (value.IsEmpty())
         properties.Remove(key);
     else
@@ -168,6 +169,12 @@ void StyleData::Exchange(Style& self, const PropertyKey& key, std::unique_ptr<St
 void StyleData::ExchangeValues(OwnProperties& others) noexcept
 {
     properties.Exchange(others);
+    TellInheritors();
+}
+
+void StyleData::ExchangeValue(const PropertyKey& key, OvxUtils::Any& other) noexcept
+{
+    properties.Exchange(key, other);
     TellInheritors();
 }
 

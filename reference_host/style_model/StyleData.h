@@ -135,6 +135,10 @@ struct StyleData
     /// Changes all own properties for others.
     void ExchangeValues(OwnProperties& others) noexcept;
 
+    /// Changes the own value of a property for another; an empty one stands for none. There is room for it:
+    /// it was there before, and there was no Restoring in between that did not bring that room back.
+    void ExchangeValue(const PropertyKey& key, OvxUtils::Any& other) noexcept;
+
     /// As LinkParent.
     void RestoreParent(Style* newParent) noexcept { parent.Point(newParent); }
 

@@ -3,11 +3,15 @@
 #include "host/style_model/Style.h"
 
 #include "host/style_model/CategoryNames.h"
+#include "host/utils/Utf8.h"
 #include "tests/reference_host/style_model/StyleMaking.h"
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <map>
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -216,6 +220,42 @@ TEST(OwnProperties, AreFoundAgainWhenTheFarOnesAreGone)
     EXPECT_EQ(style.GetOwnPropertyCount(), 2u);
     for (std::size_t index = 0; index < keys.size(); ++index)
         EXPECT_EQ(style.DoesOverridePathProperty({keys[index]}), index == 3 || index == 40) << index;
+}
+
+TEST(OwnProperties, AreThoseSetLastWhateverWasSetAndRemovedBefore)
+{
+    std::vector<PropertyKey> keys{PropertyKey::Empty};
+    for (int number = 0; number < 300; ++number)
+        keys.push_back(Key((L"in any order " + std::to_wstring(number)).c_str()));
+    std::mt19937 random(7); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same run each time.
+    Style style;
+    std::map<PropertyKey, int> expected;
+
+    // Now near one another, now scattered; mostly few of them.
+    for (int step = 0; step < 4000; ++step)
+    {
+        const std::size_t reach = step / 500 % 2 == 0 ? 50 : keys.size();
+        const PropertyKey key = keys[random() % reach];
+        if (expected.size() > random() % 30)
+        {
+            expected.erase(key);
+            style.SetProperty(key, OvxUtils::Any());
+        }
+        else
+        {
+            expected[key] = step;
+            style.SetProperty(key, Number(step));
+        }
+
+        ASSERT_EQ(style.GetOwnPropertyCount(), expected.size()) << step;
+        for (const PropertyKey& each : keys)
+        {
+            const auto found = expected.find(each);
+            ASSERT_EQ(style.GetProperty(each),
+                      found == expected.end() ? OvxUtils::Any() : Number(found->second))
+                << "step " << step << ", " << OvxUtils::ToUtf8(each.GetString());
+        }
+    }
 }
 
 } // namespace

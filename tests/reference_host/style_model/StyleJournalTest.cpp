@@ -19,6 +19,11 @@ namespace
 class RecordingJournal final : public ReferenceHost::IStyleJournal
 {
 public:
+    void BeforeStoring(Styles::StyleData& /*data*/, const Styles::PropertyKey& key) override
+    {
+        Add("store " + Narrow(key));
+    }
+
     void BeforeChange(Styles::StyleData& /*data*/) override { Add("change"); }
 
     void BeforePlacing(Style& /*owner*/, const Styles::PropertyKey& key) override
@@ -73,7 +78,7 @@ TEST_F(StyleJournal, HearsOfWritesBeforeTheyHappen)
     Sub(*style, L"fill").SetProperty(Key(L"color"), Number(1));
     style->SetPathProperty(Path({L"fill", L"color"}), Number(2));
 
-    EXPECT_THAT(journal.told, ElementsAre("change", "change at 1"));
+    EXPECT_THAT(journal.told, ElementsAre("store color", "store color at 1"));
 }
 
 TEST_F(StyleJournal, HearsOfParentsAndDefaultStyles)
@@ -89,7 +94,7 @@ TEST_F(StyleJournal, HearsOfSubstylesAtAnyDepth)
 {
     style->SetPathProperty(Path({L"shadow", L"blur", L"radius"}), Number(1));
 
-    EXPECT_THAT(journal.told, ElementsAre("place shadow", "place blur", "change"));
+    EXPECT_THAT(journal.told, ElementsAre("place shadow", "place blur", "store radius"));
 }
 
 TEST_F(StyleJournal, TakesOverWhatIsRemoved)
