@@ -79,6 +79,7 @@ FaultSubject::FaultSubject() : app(calls, PresetFolder())
 FaultSubject::~FaultSubject()
 {
     calls.FailNone();
+    HostPieces::SetConfirmation({});
     presets.reset();
     for (const ListenerToken& subscription : subscriptions)
         Events().Unsubscribe(subscription);
