@@ -44,8 +44,11 @@ endfunction()
 function(styleproperties_instruments target)
     if(STYLEPROPERTIES_SANITIZERS)
         set(flags -fsanitize=${STYLEPROPERTIES_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-        # GCC takes the instrumentation's own branches for ways on which values are not set.
-        target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
+        target_compile_options(${target} PRIVATE
+            # GCC takes the instrumentation's own branches for ways on which values are not set.
+            $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>
+            # Types seen from two shared libraries do not compare well.
+            $<$<CXX_COMPILER_ID:Clang,AppleClang>:-fno-sanitize=vptr,function>)
         target_compile_options(${target} PRIVATE ${flags})
         target_link_options(${target} PRIVATE ${flags})
     endif()

@@ -7,6 +7,7 @@ function(styleproperties_add_library_test name)
     add_library(${name}_objects OBJECT ${arg_SOURCES})
     styleproperties_target(${name}_objects)
     target_link_libraries(${name}_objects PRIVATE ${arg_LINK} GTest::gmock)
+    styleproperties_precompiled_headers(${name}_objects)
 
     styleproperties_add_test(${name}
         SOURCES $<TARGET_OBJECTS:${name}_objects>
@@ -16,7 +17,6 @@ function(styleproperties_add_library_test name)
         add_executable(${name}_on_tiny_host $<TARGET_OBJECTS:${name}_objects>)
         styleproperties_target(${name}_on_tiny_host)
         target_link_libraries(${name}_on_tiny_host PRIVATE ${arg_LINK} tiny_host_pieces GTest::gmock_main)
-        gtest_discover_tests(${name}_on_tiny_host TEST_PREFIX OnTinyHost. DISCOVERY_TIMEOUT 60
-            PROPERTIES ENVIRONMENT "${arg_ENVIRONMENT}")
+        styleproperties_list_tests(${name}_on_tiny_host TEST_PREFIX OnTinyHost. ENVIRONMENT ${arg_ENVIRONMENT})
     endif()
 endfunction()
