@@ -4,7 +4,6 @@
 #include "reference_host/style_model/StyleHosting.h"
 #include "reference_host/style_model/StyleInheritance.h"
 #include "reference_host/style_model/StyleResolution.h"
-#include "reference_host/utils/Immortal.h"
 
 #include <atomic>
 #include <utility>
@@ -17,12 +16,6 @@ namespace
 
 constinit std::atomic<std::size_t> liveStyles = 0;
 
-const OvxUtils::Any& NoValue()
-{
-    static ReferenceHost::Immortal<OvxUtils::Any> none;
-    return *none;
-}
-
 /// The effective value of `key` at the place `below` under `style`.
 const OvxUtils::Any& FindEffectiveBelow(const Style& style, ReferenceHost::Names below,
                                         const PropertyKey& key)
@@ -34,7 +27,7 @@ const OvxUtils::Any& FindEffectiveBelow(const Style& style, ReferenceHost::Names
                                     found = source.FindOwn(key);
                                     return found != nullptr;
                                 });
-    return found == nullptr ? NoValue() : *found;
+    return found == nullptr ? ReferenceHost::NoValue() : *found;
 }
 
 const StyleRelations::ExternalSheet* FindExternalSheet(const Style& style)
@@ -90,14 +83,13 @@ Style::~Style()
 
 const OvxUtils::Any& Style::GetProperty(const PropertyKey& key) const
 {
-    const OvxUtils::Any* const found = ReferenceHost::FindEffective(*this, key);
-    return found == nullptr ? NoValue() : *found;
+    return ReferenceHost::GetEffective(*this, key);
 }
 
 const OvxUtils::Any& Style::GetPathProperty(const PropertyPath& path) const
 {
     if (path.empty())
-        return NoValue();
+        return ReferenceHost::NoValue();
 
     // As deep as this style's own substyles go, what stands there decides; below that, what corresponds to
     // it.

@@ -44,6 +44,15 @@ bool SetsOrHolds(const StyleData& data, const PropertyKey& key)
     return substyle != nullptr && StyleData::Of(*substyle).HasValues();
 }
 
+/// Not inlined, so that the common question needs no registers of its own.
+[[gnu::noinline]] bool SetsOrHoldsAt(const Style& style, const PropertyPath& path)
+{
+    if (path.empty())
+        return false;
+    const Style* place = ReferenceHost::Descend(&style, {path.data(), path.size() - 1});
+    return place != nullptr && SetsOrHolds(StyleData::Of(*place), path.back());
+}
+
 } // namespace
 
 bool Style::DoesOverridePathProperty(const PropertyPath& path) const
@@ -55,11 +64,7 @@ bool Style::DoesOverridePathProperty(const PropertyPath& path) const
         return own == OwnProperties::Presence::Set ||
                (own == OwnProperties::Presence::Unknown && data->properties.Search(path.front()) != nullptr);
     }
-    if (path.empty())
-        return false;
-
-    const Style* place = ReferenceHost::Descend(this, {path.data(), path.size() - 1});
-    return place != nullptr && SetsOrHolds(StyleData::Of(*place), path.back());
+    return SetsOrHoldsAt(*this, path);
 }
 
 std::set<PropertyKey> GetOverriddenProperties(const Style& style)

@@ -1,5 +1,7 @@
 #include "reference_host/style_model/StyleResolution.h"
 
+#include "reference_host/utils/Immortal.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -125,7 +127,7 @@ const OvxUtils::Any* FindDeep(const Style& style, const Styles::PropertyKey& key
     return found;
 }
 
-/// The effective value without what is remembered of it, which is renewed.
+/// The effective value without what is remembered of it, which is renewed; null when nothing sets it.
 const OvxUtils::Any* FindAnew(const Style& style, const Styles::PropertyKey& key) noexcept
 {
     const StyleData& data = StyleData::Of(style);
@@ -150,24 +152,37 @@ const OvxUtils::Any* FindAnew(const Style& style, const Styles::PropertyKey& key
     return FindInDefaults(style, key);
 }
 
+/// As FindAnew(). Not inlined, so that what is remembered is found without registers of its own.
+[[gnu::noinline]] const OvxUtils::Any& GetAnew(const Style& style, const Styles::PropertyKey& key) noexcept
+{
+    const OvxUtils::Any* const found = FindAnew(style, key);
+    return found == nullptr ? NoValue() : *found;
+}
+
 } // namespace
 
-const OvxUtils::Any* FindEffective(const Style& style, const Styles::PropertyKey& key) noexcept
+const OvxUtils::Any& NoValue() noexcept
+{
+    static Immortal<OvxUtils::Any> none;
+    return *none;
+}
+
+const OvxUtils::Any& GetEffective(const Style& style, const Styles::PropertyKey& key) noexcept
 {
     const StyleData& data = StyleData::Of(style);
     const Style* const counterpart = data.FindKnownCounterpart();
     const OwnProperties::Presence own = data.properties.Look(key);
     if (own == OwnProperties::Presence::Set)
-        return data.properties.Search(key);
+        return *data.properties.Search(key);
     if (own == OwnProperties::Presence::Unknown || counterpart == nullptr || data.GetParent() != nullptr)
-        return FindAnew(style, key);
+        return GetAnew(style, key);
 
     const StyleData& from = StyleData::Of(*counterpart);
     const Styles::StringPool::Text* const text = key.GetPooled().GetIdentity();
     const InheritedValue& known = PlaceOf(from, text);
     const bool isRight = known.from == &from && known.key == text && known.value != nullptr &&
                          known.version == InheritanceVersion::Get();
-    return isRight ? known.value : FindAnew(style, key);
+    return isRight ? *known.value : GetAnew(style, key);
 }
 
 } // namespace ReferenceHost

@@ -84,9 +84,12 @@ bool VisitSources(const Styles::Style& style, Names below, const Visitor& visit)
            VisitWithParents(Descend(FindCounterpart(*defaults, outermost, style), below), visit);
 }
 
-/// The effective value of a property of a style; null when nothing sets it. Along the sources of the style
-/// itself, by what each style remembers of the way.
-[[nodiscard]] const OvxUtils::Any* FindEffective(const Styles::Style& style,
-                                                 const Styles::PropertyKey& key) noexcept;
+/// The empty value that stands for one that nothing sets.
+[[nodiscard]] const OvxUtils::Any& NoValue() noexcept;
+
+/// The effective value of a property of a style; NoValue() when nothing sets it. Along the sources of the
+/// style itself, by what each style remembers of the way.
+[[nodiscard]] const OvxUtils::Any& GetEffective(const Styles::Style& style,
+                                                const Styles::PropertyKey& key) noexcept;
 
 } // namespace ReferenceHost
