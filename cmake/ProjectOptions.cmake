@@ -76,7 +76,7 @@ function(styleproperties_hardening target)
     set(optimised $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
     # Some compilers bring a level of their own, which must not be defined twice.
     target_compile_options(${target} PRIVATE
-        "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3;-fstack-protector-strong>")
+        "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3;-fstack-protector-strong;-fno-plt>")
     if(UNIX AND NOT APPLE)
         target_link_options(${target} PRIVATE "$<${optimised}:LINKER:-z,relro;LINKER:-z,now>")
     endif()

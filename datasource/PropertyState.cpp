@@ -201,8 +201,8 @@ bool BaseStylePropertiesDatasource::DoesOverrideProperties(Style* style, const O
 
 bool BaseStylePropertiesDatasource::DoesOverrideAny(Style* style, const PropertyPaths& paths) const
 {
-    return std::any_of(paths.begin(), paths.end(),
-                       [&](const PropertyPath& path) { return DoesOverrideProperty(style, path); });
+    return std::ranges::any_of(paths,
+                               [&](const PropertyPath& path) { return DoesOverrideProperty(style, path); });
 }
 
 ActivePropertyState BaseStylePropertiesDatasource::GetActivePropertyState(const OvxStringT& identifier) const
@@ -219,7 +219,8 @@ ActivePropertyState BaseStylePropertiesDatasource::GetActivePropertyState(const 
 
     for (std::size_t index = 1; index < targetStyles.size(); ++index)
     {
-        Style* further = GetCategoryStyle(targetStyles[index]);
+        // GetCategoryStyle() without the call, which each target of each row would pay for.
+        Style* further = GetStyleOrSubstyle(targetStyles[index], GetCategory(), false);
         if (further == nullptr || HasNothingToInheritFrom(*further))
             return ActivePropertyState::AmbiguousParent;
 
