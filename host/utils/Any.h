@@ -183,15 +183,16 @@ private:
 template <class T>
 const AnyOperations* OperationsOf()
 {
+    using Owner = std::unique_ptr<T>;
     static constexpr bool kInline = Any::kIsInline<T>;
-    using Stored = std::conditional_t<kInline, T, T*>; // What lies on the heap is owned.
+    using Stored = std::conditional_t<kInline, T, Owner>;
     static constexpr auto value = [](const void* storage) noexcept -> const T*
     {
         const auto* stored = std::launder(static_cast<const Stored*>(storage));
         if constexpr (kInline)
             return stored;
         else
-            return *stored;
+            return stored->get();
     };
     static constexpr bool kPlain = kInline && std::is_trivially_copyable_v<T>;
     static constexpr auto copy = [](const void* source, void* destination)
@@ -199,7 +200,7 @@ const AnyOperations* OperationsOf()
         if constexpr (kInline)
             ::new (destination) T(*value(source));
         else
-            ::new (destination) Stored(std::make_unique<T>(*value(source)).release());
+            ::new (destination) Owner(std::make_unique<T>(*value(source)));
     };
     static constexpr auto move = [](void* source, void* destination) noexcept
     {
@@ -208,37 +209,34 @@ const AnyOperations* OperationsOf()
         std::destroy_at(stored);
     };
     static constexpr auto destroy = [](void* storage) noexcept
+    { std::destroy_at(std::launder(static_cast<Stored*>(storage))); };
+    static constexpr auto equal = [](const void* left, const void* right) -> bool
     {
-        auto* stored = std::launder(static_cast<Stored*>(storage));
-        if constexpr (kInline)
-            std::destroy_at(stored);
+        if constexpr (std::equality_comparable<T>)
+            return *value(left) == *value(right);
         else
-            std::default_delete<T>()(*stored);
+            return left == right;
     };
-    static const AnyOperations table{&typeid(T),
-                                     kPlain ? nullptr : +copy,
-                                     kPlain || !kInline ? nullptr : +move,
-                                     kPlain ? nullptr : +destroy,
-                                     [](const void* storage) noexcept -> const void*
-                                     { return value(storage); },
-                                     [](const void* left, const void* right) -> bool
-                                     {
-                                         if constexpr (std::equality_comparable<T>)
-                                             return *value(left) == *value(right);
-                                         else
-                                             return left == right;
-                                     },
-                                     [](const void* left, const void* right) -> bool
-                                     {
-                                         if constexpr (requires(const T& a, const T& b) {
-                                                           {
-                                                               a < b
-                                                               } -> std::convertible_to<bool>;
-                                                       })
-                                             return *value(left) < *value(right);
-                                         else
-                                             return std::less<const void*>()(left, right);
-                                     }};
+    static constexpr auto less = [](const void* left, const void* right) -> bool
+    {
+        if constexpr (requires(const T& a, const T& b) {
+                          {
+                              a < b
+                              } -> std::convertible_to<bool>;
+                      })
+            return *value(left) < *value(right);
+        else
+            return std::less<const void*>()(left, right);
+    };
+    static const AnyOperations table{
+        .type = &typeid(T),
+        .copy = kPlain ? nullptr : +copy,
+        .move = kPlain ? nullptr : +move,
+        .destroy = kPlain ? nullptr : +destroy,
+        .get = [](const void* storage) noexcept -> const void* { return value(storage); },
+        .equal = equal,
+        .less = less,
+    };
     return &table;
 }
 
@@ -253,7 +251,8 @@ requires(!std::same_as<std::remove_cvref_t<T>, Any> &&
     if constexpr (kIsInline<Held>)
         ::new (static_cast<void*>(storage)) Held(std::forward<T>(value));
     else
-        ::new (static_cast<void*>(storage)) Held*(std::make_unique<Held>(std::forward<T>(value)).release());
+        ::new (static_cast<void*>(storage))
+            std::unique_ptr<Held>(std::make_unique<Held>(std::forward<T>(value)));
     operations = OperationsOf<Held>();
 }
 
