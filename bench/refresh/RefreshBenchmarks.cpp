@@ -3,6 +3,7 @@
 
 #include "bench/harness/Work.h"
 #include "bench/harness/Works.h"
+#include "bench/refresh/CalledStyles.h"
 #include "bench/refresh/DenseStyles.h"
 #include "bench/refresh/LibraryRefresh.h"
 #include "bench/refresh/MapStyles.h"
@@ -29,6 +30,7 @@ void AddRefresh(std::string_view name, Values values)
     AddWork(name, {1, 10, 100, 1'000, 10'000, 100'000},
             {{"library", Refreshing<LibraryRefresh>(values)},
              {"floor", Refreshing<DenseStyles>(values)},
+             {"floor_calls", Refreshing<CalledStyles>(values)},
              {"plain_map", Refreshing<MapStyles>(values)},
              {"qt", Refreshing<QtStyles>(values)}});
 }

@@ -12,8 +12,9 @@ from figures import label
 from passes import BenchmarkName
 
 # Told apart by shape as well as by colour.
-LOOKS = {"library": ("#0b5394", "o", 2.4), "floor": ("#6b6b6b", "v", 1.4), "plain_map": ("#c1701f", "s", 1.4),
-         "qt": ("#3c8a3c", "D", 1.4), "gobject": ("#8a4fa0", "^", 1.4), "pugixml": ("#b03a48", "P", 1.4)}
+LOOKS = {"library": ("#0b5394", "o", 2.4), "floor": ("#6b6b6b", "v", 1.4), "floor_calls": ("#a0a0a0", "<", 1.4),
+         "plain_map": ("#c1701f", "s", 1.4), "qt": ("#3c8a3c", "D", 1.4), "gobject": ("#8a4fa0", "^", 1.4),
+         "pugixml": ("#b03a48", "P", 1.4)}
 OTHER_LOOK = ("#000000", "x", 1.4)
 SETTINGS = {"svg.hashsalt": "styleproperties", "svg.fonttype": "path", "font.family": "DejaVu Sans", "font.size": 10}
 NO_METADATA = {"Date": None, "Creator": None}

@@ -8,7 +8,7 @@ from spread import Spread, ratio_of, spread_of
 
 LIBRARY = "library"
 COUNTED = ("allocations", "bytes", "kept", "peak")
-LABELS = {"plain_map": "plain map", "qt": "Qt", "gobject": "GObject"}
+LABELS = {"floor_calls": "floor with calls", "plain_map": "plain map", "qt": "Qt", "gobject": "GObject"}
 
 
 def label(contender):
