@@ -27,8 +27,6 @@ void AddWork(std::string_view work, std::initializer_list<std::int64_t> sizes,
     {
         for (const Contender& contender : contenders)
         {
-            if (size > contender.largest)
-                continue;
             const std::string name = std::string(work) + "/" + std::string(contender.name);
             benchmark::RegisterBenchmark(name.c_str(),
                                          [run = contender.run, name](benchmark::State& state)

@@ -16,9 +16,8 @@ namespace Bench
 /// One of those that do a work: the library, or what people would take instead.
 struct Contender
 {
-    std::string_view name; ///< "library", "floor", "plain_map", "qt", "gobject" or "pugixml".
+    std::string_view name; ///< "library", "floor", "floor_calls", "plain_map", "qt", "gobject" or "pugixml".
     std::function<void(benchmark::State&)> run; ///< Sets up for `state.range(0)` and calls Measure() once.
-    std::int64_t largest = INT64_MAX;           ///< Sizes beyond this are left out: they would take minutes.
 };
 
 /// Registers the benchmarks "WORK/CONTENDER/SIZE". Those of one size stand beside each other, so that a pass
