@@ -36,6 +36,14 @@ protected:
             Write((L"value " + std::to_wstring(number)).c_str(), number + offset);
     }
 
+    void ExpectBackAndForth(const Values& before, const Values& after)
+    {
+        history.Undo();
+        EXPECT_EQ(ReadAll(), before);
+        history.Redo();
+        EXPECT_EQ(ReadAll(), after);
+    }
+
     /// Replaces all that the fill sets.
     void Replace(int value)
     {
@@ -82,12 +90,7 @@ TEST_F(ValuesInSteps, AreTakenBackHoweverManyAStepWrites)
     history.Close();
     const Values after = ReadAll();
 
-    history.Undo();
-    const Values undone = ReadAll();
-    history.Redo();
-
-    EXPECT_EQ(undone, before);
-    EXPECT_EQ(ReadAll(), after);
+    ExpectBackAndForth(before, after);
 }
 
 TEST_F(ValuesInSteps, AreTakenBackWhenTheInnerStepAloneWroteThem)
@@ -122,12 +125,7 @@ TEST_F(ValuesInSteps, AreTakenBackWhenTheInnerStepReplacedThemAll)
     history.Close();
     const Values after = ReadAll();
 
-    history.Undo();
-    const Values undone = ReadAll();
-    history.Redo();
-
-    EXPECT_EQ(undone, before);
-    EXPECT_EQ(ReadAll(), after);
+    ExpectBackAndForth(before, after);
 }
 
 TEST_F(ValuesInSteps, AreTakenBackWhenManyInnerStepsWroteOneMoreEach)
