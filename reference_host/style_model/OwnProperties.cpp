@@ -45,7 +45,7 @@ void OwnProperties::Set(const PropertyKey& key, OvxUtils::Any value)
 OwnProperties OwnProperties::CopyWithRoom() const
 {
     OwnProperties copy;
-    copy.entries.reserve(entries.capacity());
+    copy.MakeRoomOf(*this);
     copy.entries.assign(entries.begin(), entries.end());
     copy.present = present;
     copy.firstAddress = firstAddress;

@@ -92,6 +92,9 @@ public:
     /// A copy with as much room as this has.
     [[nodiscard]] OwnProperties CopyWithRoom() const;
 
+    /// Makes room for as many as `other` has room for.
+    void MakeRoomOf(const OwnProperties& other) { entries.reserve(other.entries.capacity()); }
+
     /// Makes room for `further` more than there is room for.
     void AddRoom(std::size_t further) { entries.reserve(entries.capacity() + further); }
 

@@ -75,6 +75,8 @@ void StyleData::StoreAll(OwnProperties values)
     if (properties.empty() && values.empty())
         return;
 
+    // The room stays: what steps of before put back finds its place again.
+    values.MakeRoomOf(properties);
     TellJournal();
     properties = std::move(values);
     TellInheritors();

@@ -135,8 +135,8 @@ struct StyleData
     /// Changes all own properties for others.
     void ExchangeValues(OwnProperties& others) noexcept;
 
-    /// Changes the own value of a property for another; an empty one stands for none. There is room for it:
-    /// it was there before, and there was no Restoring in between that did not bring that room back.
+    /// Changes the own value of a property for another; an empty one stands for none. Never fails for a
+    /// property that was set before: its room stays, whatever else is stored or restored.
     void ExchangeValue(const PropertyKey& key, OvxUtils::Any& other) noexcept;
 
     /// As LinkParent.

@@ -10,12 +10,14 @@ namespace
 {
 
 std::ptrdiff_t liveAllocations = 0;
+std::size_t allocationsSoFar = 0;
 
 void* Allocate(std::size_t size)
 {
     if (void* const memory = std::malloc(size == 0 ? 1 : size))
     {
         ++liveAllocations;
+        ++allocationsSoFar;
         return memory;
     }
     throw std::bad_alloc();
@@ -110,4 +112,27 @@ TEST_F(HistoryMemory, IsGivenBackWhenAStepIsCancelled)
     history.Cancel();
 
     EXPECT_EQ(liveAllocations, before);
+}
+
+TEST_F(HistoryMemory, IsNotNeededToPutAValueBackAfterAllWereReplacedByTheSame)
+{
+    Write(L"color", 1);
+    Write(L"angle", 2);
+    history.Open(L"Remove");
+    Sub(*style, L"fill").SetProperty(Key(L"angle"), OvxUtils::Any());
+    history.Close();
+    // The lists of steps have their room from here on.
+    history.Undo();
+    history.Redo();
+    const Styles::Style same(Sub(*style, L"fill"));
+    history.Open(L"Replace");
+    Sub(*style, L"fill") = same;
+    const bool isRecorded = history.Close();
+    const std::size_t before = allocationsSoFar;
+
+    history.Undo();
+
+    EXPECT_EQ(allocationsSoFar, before);
+    EXPECT_FALSE(isRecorded);
+    EXPECT_EQ(Read(L"angle"), Number(2));
 }
